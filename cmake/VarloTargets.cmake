@@ -1,0 +1,47 @@
+# SPDX-FileCopyrightText: The Varlo developers
+# SPDX-License-Identifier: GPL-3.0-or-later
+
+# What every target of ours is built with.
+add_library(varlo_options INTERFACE)
+target_compile_features(varlo_options INTERFACE cxx_std_20)
+target_compile_options(varlo_options INTERFACE
+  -Wall -Wextra -Wpedantic -Werror -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -fcoroutines)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+  # Clang knows coroutines without the flag, which only GCC needs below C++20's final wording.
+  target_compile_options(varlo_options INTERFACE -Wno-unused-command-line-argument)
+endif()
+target_compile_definitions(varlo_options INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_CAST_FROM_BYTEARRAY
+  QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400 _FILE_OFFSET_BITS=64
+  VARLO_VERSION="${PROJECT_VERSION}")
+if(VARLO_SANITIZE)
+  target_compile_options(varlo_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+    -fno-omit-frame-pointer)
+  target_link_options(varlo_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# varlo_library(history SOURCES RenameLog.h RenameLog.cpp USES renaming settings [LINKS Qt6::Network])
+# One folder of src/ as the static library Varlo::history. USES names our own libraries, LINKS everybody else's.
+function(varlo_library name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;USES;LINKS")
+  add_library(varlo_${name} STATIC ${arg_SOURCES})
+  add_library(Varlo::${name} ALIAS varlo_${name})
+  target_include_directories(varlo_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  list(TRANSFORM arg_USES PREPEND Varlo::)
+  target_link_libraries(varlo_${name} PUBLIC varlo_options Qt6::Core ${arg_USES} ${arg_LINKS})
+endfunction()
+
+# varlo_test(history/tst_RenameLog.cpp USES history fakes [LINKS ...] [COMMAND wrapper...] [PROPERTIES ...])
+# A Qt Test program of its own, run below a fresh home and a fresh set of XDG folders.
+function(varlo_test source)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "USES;LINKS;COMMAND;PROPERTIES;EXTRA_SOURCES")
+  get_filename_component(name ${source} NAME_WE)
+  add_executable(${name} ${source} ${arg_EXTRA_SOURCES})
+  list(TRANSFORM arg_USES PREPEND Varlo::)
+  target_link_libraries(${name} PRIVATE varlo_options Qt6::Core Qt6::Test ${arg_USES} ${arg_LINKS})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_compile_definitions(${name} PRIVATE VARLO_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
+    VARLO_BINARY_DIR="${PROJECT_BINARY_DIR}")
+  add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/tests/in-clean-home ${arg_COMMAND} $<TARGET_FILE:${name}>)
+  set_tests_properties(${name} PROPERTIES TIMEOUT 300 ${arg_PROPERTIES})
+endfunction()

@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "suggestion/NameSuggestionError.h"
+
+#include "platform/Result.h"
+#include <QCoreApplication>
+
+namespace Varlo {
+
+QString description(const NameSuggestionError &error)
+{
+    const auto translate = [](const char *text) { return QCoreApplication::translate("NameSuggestionError", text); };
+    return std::visit(
+        Overloaded {
+            [](const ApiError &refusal) { return refusal.message; },
+            [](const TransportError &failure) { return failure.description; },
+            //: Shown in a file's row when the user has not stored a key for the model yet
+            [&](MissingAPIKey) { return translate(QT_TRANSLATE_NOOP("NameSuggestionError", "No API key set.")); },
+            //: Shown in a file's row when the desktop's password store has to be unlocked first
+            [&](LockedAPIKey) {
+                return translate(QT_TRANSLATE_NOOP(
+                    "NameSuggestionError", "The keyring that holds your API key is locked. Unlock it and try again."));
+            },
+            //: Shown in a file's row when the model's reply holds no usable file name
+            [&](InvalidResponse) {
+                return translate(QT_TRANSLATE_NOOP("NameSuggestionError", "Unexpected response from the model."));
+            },
+            //: Shown when the model says that there is nothing to name the file from
+            [&](NoReadableContent) {
+                return translate(QT_TRANSLATE_NOOP("NameSuggestionError", "The file has no readable content."));
+            },
+        },
+        error);
+}
+
+} // namespace Varlo
