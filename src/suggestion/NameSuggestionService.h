@@ -4,23 +4,15 @@
 
 #include "extraction/Extraction.h"
 #include "platform/Result.h"
+#include "suggestion/NameSuggestion.h"
 #include "suggestion/NameSuggestionError.h"
 #include "templates/FilenameLanguage.h"
 #include "templates/NameTemplate.h"
 #include <optional>
 #include <QCoroTask>
 #include <QString>
-#include <QStringList>
 
 namespace Varlo {
-
-/// A name for a file, and words to find it by.
-struct NameSuggestion {
-    QString name; ///< clean, without extension, never empty
-    QStringList tags; ///< at most five, lower case; empty when none were asked for
-
-    bool operator==(const NameSuggestion &) const = default;
-};
 
 struct SuggestionRequest {
     FileContent content;
