@@ -37,6 +37,10 @@ public:
         const QString &key, PreferenceType type, const Change &change)
         = 0;
 
+    /// Keeps a copy of everything as it is stored now, for somebody who is about to replace a value that he cannot make
+    /// sense of. May be called from within a `Change`. One copy a run is enough; the user is told of it by a notice.
+    [[nodiscard]] virtual Result<void, SystemError> keepCopy() { return {}; }
+
     /// Starts to notice what other processes change; `changed` then comes for their changes as well.
     virtual void observe() = 0;
 
