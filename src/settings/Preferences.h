@@ -47,9 +47,11 @@ public:
 
     [[nodiscard]] Result<void, SystemError> set(const PreferenceKey &key, const PreferenceValue &value);
     /// Changes the value as it is on disk now, with every other process kept out meanwhile. `change` sees the default
-    /// where nothing is stored.
+    /// where nothing is stored; giving that back stores nothing.
     [[nodiscard]] Result<void, SystemError> update(
         const PreferenceKey &key, const std::function<PreferenceValue(const PreferenceValue &current)> &change);
+    /// Keeps a copy of what is stored, before a value that cannot be made sense of is replaced. See PreferenceStore.
+    [[nodiscard]] Result<void, SystemError> keepCopy() { return m_store.keepCopy(); }
 
 signals:
     /// The key's value changed here or in another process; `name` is that of a PreferenceKey.
