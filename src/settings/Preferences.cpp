@@ -77,8 +77,17 @@ Result<void, SystemError> Preferences::update(
         });
 }
 
+void Preferences::setForThisProcess(const PreferenceKey &key, const PreferenceValue &value)
+{
+    m_forThisProcess.insert_or_assign(key.name, value);
+    emit changed(key.name);
+}
+
 PreferenceValue Preferences::valueOrDefault(const PreferenceKey &key) const
 {
+    const auto override = m_forThisProcess.find(key.name);
+    if (override != m_forThisProcess.end())
+        return override->second;
     return m_store.value(key.name, key.type).value_or(key.defaultValue);
 }
 

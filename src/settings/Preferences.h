@@ -50,6 +50,8 @@ public:
     /// where nothing is stored; giving that back stores nothing.
     [[nodiscard]] Result<void, SystemError> update(
         const PreferenceKey &key, const std::function<PreferenceValue(const PreferenceValue &current)> &change);
+    /// Lets an option of this call stand over what is stored, which stays as it is.
+    void setForThisProcess(const PreferenceKey &key, const PreferenceValue &value);
     /// Keeps a copy of what is stored, before a value that cannot be made sense of is replaced. See PreferenceStore.
     [[nodiscard]] Result<void, SystemError> keepCopy() { return m_store.keepCopy(); }
 
@@ -61,6 +63,7 @@ private:
     [[nodiscard]] PreferenceValue valueOrDefault(const PreferenceKey &key) const;
 
     PreferenceStore &m_store;
+    std::map<QString, PreferenceValue> m_forThisProcess;
 };
 
 } // namespace Varlo
