@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "extraction/ContentReader.h"
+#include "history/RenameLog.h"
+#include "platform/SystemLocale.h"
+#include "settings/Preferences.h"
+#include "suggestion/NameSuggestionService.h"
+#include "templates/TemplateStore.h"
+#include "workflow/FileItem.h"
+#include "workflow/FolderWalk.h"
+#include <memory>
+#include <optional>
+#include <QAbstractListModel>
+#include <QCoroTask>
+#include <QHash>
+#include <unordered_set>
+#include <vector>
+
+namespace Varlo {
+
+/// The batch: the files being renamed, in the order of their admission, and the runs over them. Lives on the main
+/// thread. It stores nothing itself; language and template start anew with each object.
+class RenamerViewModel final : public QAbstractListModel {
+    Q_OBJECT
+    Q_PROPERTY(bool isSuggesting READ isSuggesting NOTIFY isSuggestingChanged)
+    Q_PROPERTY(qsizetype completedCount READ completedCount NOTIFY countsChanged)
+    Q_PROPERTY(qint64 totalBytes READ totalBytes NOTIFY countsChanged)
+    Q_PROPERTY(bool hasPending READ hasPending NOTIFY countsChanged)
+public:
+    enum class DropFeedback { NothingRenameable };
+    enum Role {
+        IdRole = Qt::UserRole + 1,
+        PathRole, ///< for showing
+        FileNameRole,
+        StatusRole, ///< the raw value of the status
+        MessageRole, ///< why it failed; "" otherwise
+        SuggestedNameRole,
+        SuggestedTagsRole,
+        PreviousNameRole,
+        ByteSizeRole,
+        IconNameRole,
+    };
+    /// What the batch works with; all of it outlives the batch.
+    struct Collaborators {
+        ContentReader &reader;
+        NameSuggestionService &suggester;
+        TemplateStore &templateStore;
+        RenameLog &renameLog;
+        Preferences &preferences;
+        const SystemLocale &locale;
+    };
+    static constexpr int maximumInFlight = 5;
+
+    explicit RenamerViewModel(const Collaborators &collaborators, QObject *parent = nullptr);
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    [[nodiscard]] const std::vector<FileItem> &files() const { return m_files; }
+    [[nodiscard]] bool isSuggesting() const { return m_isSuggesting; }
+    /// How long the latest complete suggestion run took.
+    [[nodiscard]] std::optional<double> lastSuggestSeconds() const { return m_lastSuggestSeconds; }
+    [[nodiscard]] std::optional<DropFeedback> dropFeedback() const { return m_dropFeedback; }
+    void dismissDropFeedback() { setDropFeedback({}); }
+    [[nodiscard]] FilenameLanguageOption filenameLanguageOption() const { return m_filenameLanguageOption; }
+    /// A choice that differs from the present one returns every suggested file to pending.
+    void setFilenameLanguageOption(const FilenameLanguageOption &option);
+    [[nodiscard]] std::optional<QString> selectedTemplateID() const { return m_selectedTemplateID; }
+    /// As for the language.
+    void setSelectedTemplateID(const std::optional<QString> &id);
+    /// Absent also when the store no longer has a template with the selected id.
+    [[nodiscard]] std::optional<NameTemplate> selectedTemplate() const;
+
+    [[nodiscard]] qsizetype completedCount() const; ///< neither pending nor processing
+    [[nodiscard]] qint64 totalBytes() const { return m_totalBytes; }
+    [[nodiscard]] bool hasPending() const { return m_pendingCount > 0; }
+
+    /// Admits files, and the files below folders, that Varlo can name and that are not in the batch yet; passes over
+    /// everything else in silence. Rows appear slice by slice while the event loop goes on; calls are served one after
+    /// the other. When nothing was admitted and `reportEmpty` is set, dropFeedback() says so at the end. clear() ends
+    /// it.
+    QCoro::Task<void> addFiles(std::vector<std::filesystem::path> paths, bool reportEmpty);
+    /// Empties the batch. Nothing on disk and nothing in the rename log changes.
+    void clear();
+    /// Takes every pending file through its reading and a suggestion, five at a time, until none is pending. Does
+    /// nothing while a run is under way: that run takes what has become pending meanwhile.
+    QCoro::Task<void> suggestAll();
+
+signals:
+    void isSuggestingChanged();
+    void lastSuggestSecondsChanged();
+    void dropFeedbackChanged();
+    void filenameLanguageOptionChanged();
+    void selectedTemplateIDChanged();
+    void countsChanged();
+    /// The file has come through a suggestion, with or without a name.
+    void suggestionFinished(int row);
+
+private:
+    /// The files of one round of a run and what they are asked with.
+    struct Pass {
+        std::vector<QUuid> ids;
+        std::size_t next = 0;
+        FilenameLanguage language = FilenameLanguage::Auto;
+        std::optional<NameTemplate> nameTemplate;
+        bool includeTags = false;
+    };
+    struct SuggestionResult {
+        QUuid id;
+        FileItem::Status status;
+        QString name;
+        QStringList tags;
+    };
+
+    QCoro::Task<void> waitForAdmissionTurn(quint64 turn);
+    qsizetype admit(std::vector<FolderWalk::File> found);
+    QCoro::Task<void> runPass();
+    QCoro::Task<void> runLane(std::shared_ptr<Pass> pass);
+    QCoro::Task<SuggestionResult> suggestionFor(QUuid id, std::filesystem::path path, std::shared_ptr<const Pass> pass);
+    void apply(const SuggestionResult &result);
+    void resetSuggestions();
+    [[nodiscard]] std::optional<int> rowOf(const QUuid &id) const;
+    void setStatus(int row, const FileItem::Status &status);
+    void setSuggestion(int row, const QString &name, const QStringList &tags);
+    void countStatus(const FileItem::Status &status, int change);
+    void setDropFeedback(std::optional<DropFeedback> feedback);
+    void announce(int row, const QList<int> &roles);
+
+    Collaborators m_with;
+    std::vector<FileItem> m_files;
+    QHash<QUuid, int> m_rowOfId;
+    std::unordered_set<std::string> m_paths; // of the items, to find a duplicate without a search
+    qsizetype m_pendingCount = 0;
+    qsizetype m_processingCount = 0;
+    qint64 m_totalBytes = 0;
+    bool m_isSuggesting = false;
+    std::optional<double> m_lastSuggestSeconds;
+    std::optional<DropFeedback> m_dropFeedback;
+    FilenameLanguageOption m_filenameLanguageOption = FilenameLanguage::Auto;
+    std::optional<QString> m_selectedTemplateID;
+    quint64 m_nextAdmissionTurn = 0;
+    quint64 m_currentAdmissionTurn = 0;
+    quint64 m_clearCount = 0; // an admission that began before the latest clear() adds no more
+
+signals:
+    void admissionTurnChanged(QPrivateSignal);
+};
+
+} // namespace Varlo
