@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "templates/FilenameLanguage.h"
+#include "templates/NameTemplate.h"
+#include <filesystem>
+#include <optional>
+#include <QString>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace Varlo {
+
+/// How names are asked for: what `suggest`, `rename` and `watch` have in common.
+struct NamingOptions {
+    FilenameLanguageOption language = FilenameLanguage::Auto;
+    std::optional<QString> templateId;
+    std::optional<bool> tags; ///< absent: as the preference says
+    bool offline = false; ///< the built-in namer: no key, no network
+    std::optional<QString> model;
+    std::optional<QString> endpoint;
+};
+
+/// The files a command is about.
+struct FileArguments {
+    std::vector<std::filesystem::path> files; ///< as given, relative ones too
+    std::optional<std::filesystem::path> files0From; ///< more of them, each ended by NUL, in a file or in "-"
+};
+
+struct OpenCommand {
+    std::vector<std::filesystem::path> files;
+};
+struct SuggestCommand {
+    NamingOptions naming;
+    FileArguments arguments;
+    bool json = false;
+};
+struct ExtractCommand {
+    std::vector<std::filesystem::path> files;
+    bool json = false;
+};
+struct TemplatesListCommand {
+    bool json = false;
+};
+struct TemplatesAddCommand {
+    QString name;
+    QList<TemplateField> fields;
+};
+struct TemplatesEditCommand {
+    QString id;
+    std::optional<QString> name;
+    QList<TemplateField> fields; ///< empty: they stay
+};
+struct TemplatesRemoveCommand {
+    QString id;
+};
+struct ConfigListCommand { };
+struct ConfigGetCommand {
+    QString key;
+};
+struct ConfigSetCommand {
+    QString key;
+    QString value;
+};
+enum class KeyAction { Status, Set, Remove };
+struct KeyCommand {
+    KeyAction action = KeyAction::Status;
+    std::optional<QString> endpoint;
+};
+struct FormatsCommand { };
+struct DoctorCommand {
+    bool json = false;
+    std::optional<QString> endpoint;
+};
+/// A text that was asked for: a help page or the version.
+struct ShowTextCommand {
+    std::string text;
+};
+
+/// One call of `varlo`, understood.
+using Command = std::variant<OpenCommand, SuggestCommand, ExtractCommand, TemplatesListCommand, TemplatesAddCommand,
+    TemplatesEditCommand, TemplatesRemoveCommand, ConfigListCommand, ConfigGetCommand, ConfigSetCommand, KeyCommand,
+    FormatsCommand, DoctorCommand, ShowTextCommand>;
+
+} // namespace Varlo

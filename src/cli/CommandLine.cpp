@@ -1,0 +1,293 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/CommandLine.h"
+
+#include "cli/closestWord.h"
+#include <CLI/CLI.hpp>
+#include <functional>
+
+namespace Varlo {
+
+// What CLI11 fills in. One call has one subcommand, so they may share what they have in common.
+struct CommandLine::Values {
+    std::vector<std::string> files;
+    std::string files0From;
+    std::string language = "auto";
+    std::string templateId;
+    bool tags = false;
+    bool offline = false;
+    std::string model;
+    std::string endpoint;
+    bool json = false;
+    std::string id;
+    std::string name;
+    std::vector<std::string> fields;
+    std::string key;
+    std::string value;
+    std::function<Command()> command = [] { return OpenCommand {}; }; // of the subcommand that was named
+};
+
+static std::vector<std::filesystem::path> toPaths(const std::vector<std::string> &arguments)
+{
+    return { arguments.begin(), arguments.end() };
+}
+
+/// Absent where the option was not given at all, which is something else than an empty value.
+static std::optional<QString> givenText(const CLI::App &app, const std::string &option, const std::string &value)
+{
+    return app.count(option) > 0 ? std::optional(QString::fromStdString(value)) : std::nullopt;
+}
+
+static const std::vector<std::string> &fieldWords()
+{
+    static const std::vector<std::string> words = [] {
+        std::vector<std::string> result;
+        for (const TemplateField field : allTemplateFields)
+            result.push_back(rawValue(field).toStdString());
+        return result;
+    }();
+    return words;
+}
+
+static QList<TemplateField> toFields(const std::vector<std::string> &words)
+{
+    QList<TemplateField> fields;
+    for (const std::string &word : words) {
+        if (const auto field = templateField(QString::fromStdString(word)))
+            fields.append(*field);
+    }
+    return fields;
+}
+
+CommandLine::CommandLine()
+    : m_app(std::make_unique<CLI::App>("Renames documents and photos after what is in them."))
+    , m_values(std::make_unique<Values>())
+{
+    m_app->name("varlo");
+    m_app->set_version_flag("--version", "varlo " VARLO_VERSION, "Print the version");
+    m_app->set_help_flag("-h,--help", "Print this help");
+    // At most one subcommand: otherwise a file called "key" behind "suggest" would be taken for another one.
+    m_app->require_subcommand(0, 1);
+    m_app->footer("Without a subcommand the window opens. `varlo SUBCOMMAND --help` tells more.");
+    describeFileCommands();
+    describeTemplates();
+    describeSettings();
+}
+
+CommandLine::~CommandLine() = default;
+
+CLI::App *CommandLine::addCommand(CLI::App &parent, const std::string &name, const std::string &summary)
+{
+    CLI::App *command = parent.add_subcommand(name, summary);
+    command->set_help_flag("-h,--help", "Print this help");
+    return command;
+}
+
+void CommandLine::addNamingOptions(CLI::App &app)
+{
+    Values &values = *m_values;
+    app.add_option("--language", values.language, "The language of the names")
+        ->type_name("LANGUAGE")
+        ->check(CLI::IsMember({ "auto", "system", "en", "es", "nl" }))
+        ->capture_default_str();
+    app.add_option("--template", values.templateId, "Follow the naming template with this id (see `varlo templates`)")
+        ->type_name("ID");
+    app.add_flag("--tags,!--no-tags", values.tags, "Ask for keyword tags as well, or do not (default: the preference)");
+    app.add_flag(
+        "--offline", values.offline, "Use the built-in rules in place of the hosted model: no key, no network");
+    app.add_option("--model", values.model, "The model asked for at the endpoint")->type_name("ID");
+    app.add_option("--endpoint", values.endpoint, "Base address of the Messages interface")->type_name("URL");
+}
+
+void CommandLine::describeFileCommands()
+{
+    Values &values = *m_values;
+    CLI::App *open = addCommand(*m_app, "open", "Open the window with these files in the list");
+    open->add_option("FILE", values.files, "Files and folders");
+    open->callback([&values] { values.command = [&values] { return OpenCommand { toPaths(values.files) }; }; });
+
+    CLI::App *suggest = addCommand(*m_app, "suggest", "Suggest names; changes nothing on disk");
+    addNamingOptions(*suggest);
+    suggest->add_flag("--json", values.json, "Print one JSON object a line, each as it completes");
+    suggest->add_option("--files0-from", values.files0From, "Take more paths, each ended by NUL, from a file or from -")
+        ->type_name("FILE");
+    suggest->add_option("FILE", values.files, "Files, and folders to look through");
+    suggest->callback([&values, suggest] {
+        values.command = [&values, suggest]() -> Command {
+            SuggestCommand command;
+            command.naming.language
+                = filenameLanguageOption(QString::fromStdString(values.language)).value_or(FilenameLanguage::Auto);
+            command.naming.templateId = givenText(*suggest, "--template", values.templateId);
+            if (suggest->count("--tags") > 0)
+                command.naming.tags = values.tags;
+            command.naming.offline = values.offline;
+            command.naming.model = givenText(*suggest, "--model", values.model);
+            command.naming.endpoint = givenText(*suggest, "--endpoint", values.endpoint);
+            command.arguments.files = toPaths(values.files);
+            if (suggest->count("--files0-from") > 0)
+                command.arguments.files0From = values.files0From;
+            command.json = values.json;
+            return command;
+        };
+        if (values.files.empty() && suggest->count("--files0-from") == 0)
+            throw CLI::RequiredError("FILE");
+    });
+
+    CLI::App *extract = addCommand(*m_app, "extract", "Print what the model would be given for each file");
+    extract->add_flag("--json", values.json, "Print one JSON object a line, each as it completes");
+    extract->add_option("FILE", values.files, "Files")->required();
+    extract->callback([&values] {
+        values.command = [&values] { return ExtractCommand { toPaths(values.files), values.json }; };
+    });
+}
+
+void CommandLine::describeTemplates()
+{
+    Values &values = *m_values;
+    CLI::App *templates = addCommand(*m_app, "templates", "Naming templates: the structure that names follow");
+    templates->require_subcommand(0, 1);
+    templates->add_flag("--json", values.json, "Print one JSON object a line");
+    const auto list = [&values] { values.command = [&values] { return TemplatesListCommand { values.json }; }; };
+
+    CLI::App *listing = addCommand(*templates, "list", "Print every template");
+    listing->add_flag("--json", values.json, "Print one JSON object a line");
+
+    CLI::App *add = addCommand(*templates, "add", "Make a template of these fields and print its id");
+    add->add_option("--name", values.name, "The name it is shown under")->type_name("NAME");
+    add->add_option("FIELD", values.fields, "date, vendor, amount, title, type or parties")
+        ->required()
+        ->check(CLI::IsMember(fieldWords()));
+
+    CLI::App *edit = addCommand(*templates, "edit", "Change a template's name or fields");
+    edit->add_option("ID", values.id, "Which template")->required();
+    edit->add_option("--name", values.name, "The name it is shown under")->type_name("NAME");
+    edit->add_option("FIELD", values.fields, "The new fields in their order")->check(CLI::IsMember(fieldWords()));
+
+    CLI::App *remove = addCommand(*templates, "remove", "Remove a template of your own");
+    remove->add_option("ID", values.id, "Which template")->required();
+
+    // The callbacks of subcommands run before their parent's, so the parent can tell what was named.
+    templates->callback([&values, list, templates, add, edit, remove] {
+        if (templates->got_subcommand(add)) {
+            values.command = [&values] {
+                return TemplatesAddCommand { QString::fromStdString(values.name), toFields(values.fields) };
+            };
+        } else if (templates->got_subcommand(edit)) {
+            values.command = [&values, edit] {
+                return TemplatesEditCommand { QString::fromStdString(values.id),
+                    givenText(*edit, "--name", values.name), toFields(values.fields) };
+            };
+        } else if (templates->got_subcommand(remove)) {
+            values.command = [&values] { return TemplatesRemoveCommand { QString::fromStdString(values.id) }; };
+        } else {
+            list();
+        }
+    });
+}
+
+void CommandLine::describeSettings()
+{
+    Values &values = *m_values;
+    CLI::App *config = addCommand(*m_app, "config", "The preferences");
+    config->require_subcommand(0, 1);
+    addCommand(*config, "list", "Print every preference and its value");
+    CLI::App *get = addCommand(*config, "get", "Print one preference");
+    get->add_option("KEY", values.key, "Which preference")->required();
+    CLI::App *set = addCommand(*config, "set", "Change one preference");
+    set->add_option("KEY", values.key, "Which preference")->required();
+    set->add_option("VALUE", values.value, "Its new value")->required();
+    config->callback([&values, config, get, set] {
+        if (config->got_subcommand(get)) {
+            values.command = [&values] { return ConfigGetCommand { QString::fromStdString(values.key) }; };
+        } else if (config->got_subcommand(set)) {
+            values.command = [&values] {
+                return ConfigSetCommand { QString::fromStdString(values.key), QString::fromStdString(values.value) };
+            };
+        } else {
+            values.command = [] { return ConfigListCommand {}; };
+        }
+    });
+
+    CLI::App *key = addCommand(*m_app, "key", "The API key of the model");
+    key->require_subcommand(0, 1);
+    key->add_option("--endpoint", values.endpoint, "Base address that the key is for")->type_name("URL");
+    addCommand(*key, "status", "Tell whether a key is stored");
+    CLI::App *keySet = addCommand(*key, "set", "Store a key, read from standard input or a hidden prompt");
+    CLI::App *keyRemove = addCommand(*key, "remove", "Remove the stored key");
+    key->callback([&values, key, keySet, keyRemove] {
+        const KeyAction action = key->got_subcommand(keySet) ? KeyAction::Set
+            : key->got_subcommand(keyRemove)                 ? KeyAction::Remove
+                                                             : KeyAction::Status;
+        values.command = [&values, key, action] {
+            return KeyCommand { action, givenText(*key, "--endpoint", values.endpoint) };
+        };
+    });
+
+    CLI::App *formats = addCommand(*m_app, "formats", "Print the supported formats");
+    formats->callback([&values] { values.command = [] { return FormatsCommand {}; }; });
+
+    CLI::App *doctor = addCommand(*m_app, "doctor", "Tell what works on this machine, and how to mend what does not");
+    doctor->add_flag("--json", values.json, "Print one JSON object a line");
+    doctor->add_option("--endpoint", values.endpoint, "Base address of the Messages interface")->type_name("URL");
+    doctor->callback([&values, doctor] {
+        values.command = [&values, doctor] {
+            return DoctorCommand { values.json, givenText(*doctor, "--endpoint", values.endpoint) };
+        };
+    });
+}
+
+/// The subcommand that was being described when the parser gave up.
+static const CLI::App &innermostCommand(const CLI::App &app)
+{
+    const auto named = app.get_subcommands();
+    return named.empty() ? app : innermostCommand(*named.front());
+}
+
+static std::vector<std::string> knownWords(const CLI::App &app)
+{
+    std::vector<std::string> words;
+    for (const CLI::App *command : app.get_subcommands([](const CLI::App *) { return true; }))
+        words.push_back(command->get_name());
+    for (const CLI::Option *option : app.get_options()) {
+        for (const std::string &longName : option->get_lnames())
+            words.push_back("--" + longName);
+    }
+    return words;
+}
+
+static std::string commandPath(const CLI::App &app)
+{
+    return app.get_parent() ? commandPath(*app.get_parent()) + " " + app.get_name() : app.get_name();
+}
+
+static UsageError unknownWord(const CLI::App &app)
+{
+    const CLI::App &command = innermostCommand(app);
+    const std::vector<std::string> rest = command.remaining();
+    const std::string word = rest.empty() ? std::string() : rest.front();
+    std::string message = "unknown " + std::string(word.starts_with("-") ? "option" : "word") + " \"" + word + "\"";
+    if (const auto closest = closestWord(word, knownWords(command)))
+        message += "; did you mean \"" + *closest + "\"?";
+    return { message + "\nSee `" + commandPath(command) + " --help`." };
+}
+
+Result<Command, UsageError> CommandLine::parse(std::span<const char *const> arguments)
+{
+    // CLI11 takes them from the back.
+    std::vector<std::string> reversed(arguments.rbegin(), arguments.rend());
+    try {
+        m_app->parse(std::move(reversed));
+        return m_values->command();
+    } catch (const CLI::CallForHelp &) {
+        return ShowTextCommand { innermostCommand(*m_app).help() };
+    } catch (const CLI::CallForVersion &version) {
+        return ShowTextCommand { std::string(version.what()) + "\n" };
+    } catch (const CLI::ExtrasError &) {
+        return tl::unexpected(unknownWord(*m_app));
+    } catch (const CLI::ParseError &error) {
+        return tl::unexpected(
+            UsageError { std::string(error.what()) + "\nSee `" + commandPath(innermostCommand(*m_app)) + " --help`." });
+    }
+}
+
+} // namespace Varlo
