@@ -4,9 +4,9 @@
 
 #include "platform/linux/replaceFile.h"
 #include "platform/linux/StateFolders.h"
+#include "platform/shownPath.h"
 #include <fcntl.h>
 #include <QCoreApplication>
-#include <QFile>
 #include <QJsonDocument>
 #include <QScopedValueRollback>
 
@@ -88,8 +88,6 @@ std::optional<QJsonObject> parse(const QByteArray &content)
         return {};
     return document.object();
 }
-
-QString shown(const path &file) { return QFile::decodeName(file.c_str()); }
 
 bool isDamage(const StateFileError &error) { return error.kind == StateFileError::Kind::TooLarge; }
 
@@ -242,12 +240,12 @@ Result<void, SystemError> JsonPreferenceStore::setAsideDamaged()
         notice(QCoreApplication::translate("JsonPreferenceStore",
             "The settings in \"%1\" are damaged and could not be set aside: %2 Nothing can be saved until that is "
             "done.")
-                   .arg(shown(*file), kept.error().description()));
+                   .arg(shownPath(*file), kept.error().description()));
         return tl::unexpected(kept.error());
     }
     notice(QCoreApplication::translate(
         "JsonPreferenceStore", "The settings in \"%1\" were damaged. The damaged file was kept as \"%2\".")
-               .arg(shown(*file), shown(*kept)));
+               .arg(shownPath(*file), shownPath(*kept)));
     return {};
 }
 
@@ -275,7 +273,7 @@ Result<void, SystemError> JsonPreferenceStore::copyUnderLock()
     m_hasCopied = true;
     notice(QCoreApplication::translate(
         "JsonPreferenceStore", "A part of the settings in \"%1\" was damaged. A copy as it was is in \"%2\".")
-               .arg(shown(m_file), shown(*kept)));
+               .arg(shownPath(m_file), shownPath(*kept)));
     return {};
 }
 
@@ -311,7 +309,7 @@ void JsonPreferenceStore::load()
     const auto held = lock();
     if (!held) {
         notice(QCoreApplication::translate("JsonPreferenceStore", "The settings in \"%1\" are damaged: %2")
-                   .arg(shown(m_file), held.error().description()));
+                   .arg(shownPath(m_file), held.error().description()));
         return;
     }
     if (const auto values = readUnderLock())
@@ -337,7 +335,7 @@ void JsonPreferenceStore::watch()
         std::error_code error;
         while (!std::filesystem::is_directory(folder, error) && folder.has_relative_path())
             folder = folder.parent_path();
-        folders.append(shown(folder));
+        folders.append(shownPath(folder));
     }
     folders.removeDuplicates();
     for (const QString &watched : m_watcher->directories()) {
@@ -380,7 +378,7 @@ void JsonPreferenceStore::noticeUnreadable(const StateFileError &error)
 {
     notice(QCoreApplication::translate(
         "JsonPreferenceStore", "The settings in \"%1\" could not be read, and the default settings hold: %2")
-               .arg(shown(m_file), error.description()));
+               .arg(shownPath(m_file), error.description()));
 }
 
 QStringList JsonPreferenceStore::takeNotices() { return std::exchange(m_notices, {}); }

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/readStateFile.h"
 
-#include "platform/FileDescriptor.h"
+#include "platform/linux/openRegularFile.h"
 #include "platform/linux/retryInterrupted.h"
-#include <fcntl.h>
 #include <QCoreApplication>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -30,29 +29,26 @@ QString StateFileError::description() const
     Q_UNREACHABLE();
 }
 
-static StateFileError openingError(const std::filesystem::path &path)
+static StateFileError absence(const std::filesystem::path &path)
 {
-    const SystemError error = SystemError::latest();
-    if (error.code == ENXIO) // a socket
-        return { Kind::NotRegular, error };
-    if (error.code != ENOENT)
-        return { Kind::System, error };
-    struct stat status { };
-    const bool isLink = ::lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
-    return { isLink ? Kind::DanglingLink : Kind::Missing, error };
+    std::error_code error;
+    const bool isLink = std::filesystem::is_symlink(path, error);
+    return { isLink ? Kind::DanglingLink : Kind::Missing, { ENOENT } };
 }
 
 Result<QByteArray, StateFileError> readStateFile(const std::filesystem::path &path, qint64 sizeLimit)
 {
-    const FileDescriptor file(
-        retryInterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY); }));
-    if (!file.isOpen())
-        return tl::unexpected(openingError(path));
+    const auto opened = openRegularFile(path);
+    if (!opened) {
+        const auto *error = std::get_if<SystemError>(&opened.error());
+        if (!error)
+            return tl::unexpected(StateFileError { Kind::NotRegular, {} });
+        return tl::unexpected(error->code == ENOENT ? absence(path) : StateFileError { Kind::System, *error });
+    }
+    const FileDescriptor &file = *opened;
     struct stat status { };
     if (::fstat(file.get(), &status) != 0)
         return tl::unexpected(StateFileError { Kind::System, SystemError::latest() });
-    if (!S_ISREG(status.st_mode))
-        return tl::unexpected(StateFileError { Kind::NotRegular, {} });
     if (status.st_size > sizeLimit)
         return tl::unexpected(StateFileError { Kind::TooLarge, {} });
 
