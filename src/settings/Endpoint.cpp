@@ -17,8 +17,8 @@ static bool isLoopbackHost(const QString &host)
     // decimal numbers, while a host name that merely starts like one may have any length and any ending.
     const QStringList parts = host.split(u'.');
     const auto isOctet = [](const QString &part) {
-        const ushort value = part.toUShort();
-        return value <= 255 && QString::number(value) == part; // toUShort() would take "+1"
+        bool isNumber = false;
+        return part.toUShort(&isNumber) <= 255 && isNumber;
     };
     return parts.size() == 4 && parts.front() == "127"_L1 && std::all_of(parts.begin(), parts.end(), isOctet);
 }

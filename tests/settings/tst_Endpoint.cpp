@@ -73,7 +73,6 @@ void EndpointTest::refuses_data()
     row("http://127.0.0.1.evil.example", PlainHttpBeyondLoopback);
     row("http://127.0.0.256", PlainHttpBeyondLoopback);
     row("http://127.evil.0.1", PlainHttpBeyondLoopback);
-    row("http://127.+0.0.1", PlainHttpBeyondLoopback);
     row("http://localhost.evil.example", PlainHttpBeyondLoopback);
     row("http://0.0.0.0", PlainHttpBeyondLoopback);
     row("http://128.0.0.1", PlainHttpBeyondLoopback);
