@@ -20,7 +20,7 @@ struct FakeSecretStore final : SecretStore {
         const auto found = secrets.find(account);
         if (found == secrets.end())
             co_return tl::unexpected(Failure::NotFound);
-        co_return found->second;
+        co_return QString(found->second); // QCoro moves out of whatever is returned
     }
     [[nodiscard]] QCoro::Task<Result<void, Failure>> save(QString account, QString secret) override
     {

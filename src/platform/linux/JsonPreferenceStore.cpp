@@ -3,9 +3,9 @@
 #include "platform/linux/JsonPreferenceStore.h"
 
 #include "platform/linux/replaceFile.h"
+#include "platform/linux/setAside.h"
 #include "platform/linux/StateFolders.h"
 #include "platform/shownPath.h"
-#include <fcntl.h>
 #include <QCoreApplication>
 #include <QJsonDocument>
 #include <QScopedValueRollback>
@@ -100,36 +100,6 @@ bool isAbsence(const StateFileError &error)
 SystemError systemError(const StateFileError &error)
 {
     return error.kind == StateFileError::Kind::NotRegular ? SystemError { EEXIST } : error.error;
-}
-
-/// Calls `create` with "NAME.damaged-1.EXTENSION", -2 and so on until one is not taken.
-template <typename Create> Result<path, SystemError> makeDamagedFile(const path &file, const Create &create)
-{
-    constexpr int numbers = 1000;
-    for (int number = 1; number <= numbers; ++number) {
-        path name = file.stem();
-        name += ".damaged-" + std::to_string(number);
-        name += file.extension();
-        path candidate = file.parent_path() / name;
-        const Result<void, SystemError> created = create(candidate);
-        if (created)
-            return candidate;
-        if (created.error().code != EEXIST)
-            return tl::unexpected(created.error());
-    }
-    return tl::unexpected(SystemError { EEXIST });
-}
-
-Result<void, SystemError> renameWithoutReplacing(const path &from, const path &to)
-{
-    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0)
-        return {};
-    if (errno != EINVAL && errno != ENOSYS)
-        return tl::unexpected(SystemError::latest());
-    // A file system without that flag: a hard link does not replace either.
-    if (::link(from.c_str(), to.c_str()) != 0 || ::unlink(from.c_str()) != 0)
-        return tl::unexpected(SystemError::latest());
-    return {};
 }
 
 } // namespace
@@ -231,21 +201,17 @@ Result<void, SystemError> JsonPreferenceStore::write(const QJsonObject &values)
 
 Result<void, SystemError> JsonPreferenceStore::setAsideDamaged()
 {
-    const auto file = linkDestination(m_file);
-    if (!file)
-        return tl::unexpected(file.error());
-    const auto kept
-        = makeDamagedFile(*file, [&](const path &candidate) { return renameWithoutReplacing(*file, candidate); });
+    const auto kept = setAside(m_file);
     if (!kept) {
         notice(QCoreApplication::translate("JsonPreferenceStore",
             "The settings in \"%1\" are damaged and could not be set aside: %2 Nothing can be saved until that is "
             "done.")
-                   .arg(shownPath(*file), kept.error().description()));
+                   .arg(shownPath(m_file), kept.error().description()));
         return tl::unexpected(kept.error());
     }
     notice(QCoreApplication::translate(
         "JsonPreferenceStore", "The settings in \"%1\" were damaged. The damaged file was kept as \"%2\".")
-               .arg(shownPath(*file), shownPath(*kept)));
+               .arg(shownPath(m_file), shownPath(*kept)));
     return {};
 }
 
@@ -267,7 +233,7 @@ Result<void, SystemError> JsonPreferenceStore::copyUnderLock()
     const auto content = readStateFile(m_file, sizeLimit);
     if (!content)
         return isAbsence(content.error()) ? Result<void, SystemError> {} : tl::unexpected(systemError(content.error()));
-    const auto kept = makeDamagedFile(m_file, [&](const path &candidate) { return createFile(candidate, *content); });
+    const auto kept = Varlo::keepCopy(m_file, *content);
     if (!kept)
         return tl::unexpected(kept.error());
     m_hasCopied = true;
