@@ -8,7 +8,7 @@
 
 namespace Varlo {
 
-constexpr qsizetype pieceSize = 8 * 1024; // bytes decoded at a time
+constexpr qsizetype pieceSize = 8192; // bytes decoded at a time
 
 // Where the next character ends is decided by at most one code point behind it, so text up to the limits and a little
 // beyond tells all. A UTF-16 unit stands for at least one byte of UTF-8.

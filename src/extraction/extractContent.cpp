@@ -5,9 +5,9 @@
 #include "extraction/readPlainText.h"
 #include "extraction/supportedExtensions.h"
 #include "platform/linux/openRegularFile.h"
+#include "platform/linux/retryInterrupted.h"
 #include "platform/pathExtension.h"
 #include <algorithm>
-#include <cerrno>
 #include <QCoreApplication>
 #include <span>
 #include <unistd.h>
@@ -46,10 +46,7 @@ static Extraction readByKind(const FileDescriptor &file, std::string_view extens
 static Result<bool, SystemError> hasFirstByte(const FileDescriptor &file)
 {
     char byte = 0;
-    ssize_t count = 0;
-    do {
-        count = ::pread(file.get(), &byte, 1, 0);
-    } while (count < 0 && errno == EINTR);
+    const ssize_t count = retryInterrupted([&] { return ::pread(file.get(), &byte, 1, 0); });
     if (count < 0)
         return tl::unexpected(SystemError::latest());
     return count == 1;
