@@ -45,6 +45,7 @@ void ReadPlainTextTest::reads_data()
     QTest::newRow("cut short in the last character") << mebibyte << 0LL << "\xE6\xBC"_ba << noText;
     QTest::newRow("nothing behind the hole") << letters << hole << ""_ba << padded;
     QTest::newRow("text behind the hole") << letters << hole << "y"_ba << padded;
+    QTest::newRow("hole in front") << ""_ba << hole << "y"_ba << u"text: "_s + QString(8000, QChar());
     QTest::newRow("wrong byte behind the hole") << letters << hole << "\xFF"_ba << noText;
     QTest::newRow("hole inside a character") << mebibyte.chopped(1) + '\xC2' << hole << "\x85"_ba << noText;
     // A chunk's size is some power of two: a character across each of them.
