@@ -80,6 +80,7 @@ CLI::App *CommandLine::addCommand(CLI::App &parent, const std::string &name, con
 {
     CLI::App *command = parent.add_subcommand(name, summary);
     command->set_help_flag("-h,--help", "Print this help");
+    command->footer(""); // CLI11 hands the parent's down
     return command;
 }
 
@@ -112,6 +113,16 @@ void CommandLine::describeFileCommands()
     suggest->add_option("--files0-from", values.files0From, "Take more paths, each ended by NUL, from a file or from -")
         ->type_name("FILE");
     suggest->add_option("FILE", values.files, "Files, and folders to look through");
+    suggest->footer(
+        "With --json each object has path, status, name (without the extension; empty where there is none),\n"
+        "extension and tags, and message where the status is failed.\n"
+        "\n"
+        "Examples:\n"
+        "  # Names for what a scanner left in a folder\n"
+        "  varlo suggest ~/Scans\n"
+        "  # The photos of this year, in Dutch, without the network\n"
+        "  find ~/Photos -newermt 2026-01-01 -print0 |\n"
+        "      varlo suggest --offline --language nl --files0-from -");
     suggest->callback([&values, suggest] {
         values.command = [&values, suggest]() -> Command {
             SuggestCommand command;
@@ -136,6 +147,9 @@ void CommandLine::describeFileCommands()
     CLI::App *extract = addCommand(*m_app, "extract", "Print what the model would be given for each file");
     extract->add_flag("--json", values.json, "Print one JSON object a line, each as it completes");
     extract->add_option("FILE", values.files, "Files")->required();
+    extract->footer("Examples:\n"
+                    "  # Whether there is text in a scan at all\n"
+                    "  varlo extract scan.pdf");
     extract->callback([&values] {
         values.command = [&values] { return ExtractCommand { toPaths(values.files), values.json }; };
     });
@@ -147,6 +161,10 @@ void CommandLine::describeTemplates()
     CLI::App *templates = addCommand(*m_app, "templates", "Naming templates: the structure that names follow");
     templates->require_subcommand(0, 1);
     templates->add_flag("--json", values.json, "Print one JSON object a line");
+    templates->footer("Examples:\n"
+                      "  # A structure of one's own, used at once\n"
+                      "  id=$(varlo templates add --name Bills date vendor amount)\n"
+                      "  varlo suggest --template \"$id\" ~/Bills");
     const auto list = [&values] { values.command = [&values] { return TemplatesListCommand { values.json }; }; };
 
     CLI::App *listing = addCommand(*templates, "list", "Print every template");
@@ -154,7 +172,7 @@ void CommandLine::describeTemplates()
 
     CLI::App *add = addCommand(*templates, "add", "Make a template of these fields and print its id");
     add->add_option("--name", values.name, "The name it is shown under")->type_name("NAME");
-    add->add_option("FIELD", values.fields, "date, vendor, amount, title, type or parties")
+    add->add_option("FIELD", values.fields, "The fields in their order")
         ->required()
         ->check(CLI::IsMember(fieldWords()));
 
@@ -190,6 +208,8 @@ void CommandLine::describeSettings()
     Values &values = *m_values;
     CLI::App *config = addCommand(*m_app, "config", "The preferences");
     config->require_subcommand(0, 1);
+    config->footer("Examples:\n"
+                   "  varlo config set uiLanguage nl");
     addCommand(*config, "list", "Print every preference and its value");
     CLI::App *get = addCommand(*config, "get", "Print one preference");
     get->add_option("KEY", values.key, "Which preference")->required();
@@ -210,6 +230,11 @@ void CommandLine::describeSettings()
 
     CLI::App *key = addCommand(*m_app, "key", "The API key of the model");
     key->require_subcommand(0, 1);
+    key->footer("Examples:\n"
+                "  # From a password manager, without showing it\n"
+                "  pass show anthropic | varlo key set\n"
+                "  # For a server of one's own\n"
+                "  varlo key --endpoint http://localhost:8080 set");
     key->add_option("--endpoint", values.endpoint, "Base address that the key is for")->type_name("URL");
     addCommand(*key, "status", "Tell whether a key is stored");
     CLI::App *keySet = addCommand(*key, "set", "Store a key, read from standard input or a hidden prompt");
