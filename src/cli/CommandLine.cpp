@@ -3,6 +3,7 @@
 #include "cli/CommandLine.h"
 
 #include "cli/closestWord.h"
+#include <algorithm>
 #include <CLI/CLI.hpp>
 #include <functional>
 
@@ -59,6 +60,18 @@ static QList<TemplateField> toFields(const std::vector<std::string> &words)
     return fields;
 }
 
+/// Any number of arguments, as they stand. Where CLI11 may take more than it expects, "[2024]" is a list to it, and a
+/// folder of that name would lose its brackets; so it expects as many as there can be.
+static CLI::Option *addArguments(
+    CLI::App &app, const std::string &name, std::vector<std::string> &words, const std::string &description)
+{
+    constexpr int many = CLI::detail::expected_max_vector_size;
+    return app.add_option(name, words, description)
+        ->expected(many, many)
+        ->allow_extra_args(false)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+}
+
 CommandLine::CommandLine()
     : m_app(std::make_unique<CLI::App>("Renames documents and photos after what is in them."))
     , m_values(std::make_unique<Values>())
@@ -104,7 +117,7 @@ void CommandLine::describeFileCommands()
 {
     Values &values = *m_values;
     CLI::App *open = addCommand(*m_app, "open", "Open the window with these files in the list");
-    open->add_option("FILE", values.files, "Files and folders");
+    addArguments(*open, "FILE", values.files, "Files and folders");
     open->callback([&values] { values.command = [&values] { return OpenCommand { toPaths(values.files) }; }; });
 
     CLI::App *suggest = addCommand(*m_app, "suggest", "Suggest names; changes nothing on disk");
@@ -112,7 +125,7 @@ void CommandLine::describeFileCommands()
     suggest->add_flag("--json", values.json, "Print one JSON object a line, each as it completes");
     suggest->add_option("--files0-from", values.files0From, "Take more paths, each ended by NUL, from a file or from -")
         ->type_name("FILE");
-    suggest->add_option("FILE", values.files, "Files, and folders to look through");
+    addArguments(*suggest, "FILE", values.files, "Files, and folders to look through");
     suggest->footer(
         "With --json each object has path, status, name (without the extension; empty where there is none),\n"
         "extension and tags, and message where the status is failed.\n"
@@ -146,7 +159,7 @@ void CommandLine::describeFileCommands()
 
     CLI::App *extract = addCommand(*m_app, "extract", "Print what the model would be given for each file");
     extract->add_flag("--json", values.json, "Print one JSON object a line, each as it completes");
-    extract->add_option("FILE", values.files, "Files")->required();
+    addArguments(*extract, "FILE", values.files, "Files")->required();
     extract->footer("Examples:\n"
                     "  # Whether there is text in a scan at all\n"
                     "  varlo extract scan.pdf");
@@ -172,14 +185,14 @@ void CommandLine::describeTemplates()
 
     CLI::App *add = addCommand(*templates, "add", "Make a template of these fields and print its id");
     add->add_option("--name", values.name, "The name it is shown under")->type_name("NAME");
-    add->add_option("FIELD", values.fields, "The fields in their order")
+    addArguments(*add, "FIELD", values.fields, "The fields in their order")
         ->required()
         ->check(CLI::IsMember(fieldWords()));
 
     CLI::App *edit = addCommand(*templates, "edit", "Change a template's name or fields");
     edit->add_option("ID", values.id, "Which template")->required();
     edit->add_option("--name", values.name, "The name it is shown under")->type_name("NAME");
-    edit->add_option("FIELD", values.fields, "The new fields in their order")->check(CLI::IsMember(fieldWords()));
+    addArguments(*edit, "FIELD", values.fields, "The new fields in their order")->check(CLI::IsMember(fieldWords()));
 
     CLI::App *remove = addCommand(*templates, "remove", "Remove a template of your own");
     remove->add_option("ID", values.id, "Which template")->required();
@@ -288,8 +301,9 @@ static std::string commandPath(const CLI::App &app)
 static UsageError unknownWord(const CLI::App &app)
 {
     const CLI::App &command = innermostCommand(app);
-    const std::vector<std::string> rest = command.remaining();
-    const std::string word = rest.empty() ? std::string() : rest.front();
+    const std::vector<std::string> rest = app.remaining(true); // behind "--" it is a parent that they are left to
+    const auto unknown = std::ranges::find_if(rest, [](const std::string &left) { return left != "--"; });
+    const std::string word = unknown == rest.end() ? std::string() : *unknown;
     std::string message = "unknown " + std::string(word.starts_with("-") ? "option" : "word") + " \"" + word + "\"";
     if (const auto closest = closestWord(word, knownWords(command)))
         message += "; did you mean \"" + *closest + "\"?";
