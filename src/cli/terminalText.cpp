@@ -38,7 +38,8 @@ static bool isSafe(UChar32 codePoint)
 {
     constexpr UChar32 zeroWidthNonJoiner = 0x200C;
     constexpr UChar32 zeroWidthJoiner = 0x200D;
-    return codePoint == zeroWidthNonJoiner || codePoint == zeroWidthJoiner || u_isprint(codePoint);
+    const bool breaksLine = u_charType(codePoint) == U_LINE_SEPARATOR || u_charType(codePoint) == U_PARAGRAPH_SEPARATOR;
+    return codePoint == zeroWidthNonJoiner || codePoint == zeroWidthJoiner || (u_isprint(codePoint) && !breaksLine);
 }
 
 static void append(QString &out, UChar32 codePoint)
@@ -75,7 +76,8 @@ QString terminalText(const std::filesystem::path &path)
             continue;
         }
         for (int32_t invalid = start; invalid < at; ++invalid)
-            out += u"\\%1"_s.arg(static_cast<unsigned char>(bytes[static_cast<std::size_t>(invalid)]), 3, 8, QLatin1Char('0'));
+            out += u"\\%1"_s.arg(
+                static_cast<unsigned char>(bytes[static_cast<std::size_t>(invalid)]), 3, 8, QLatin1Char('0'));
     }
     return out;
 }
