@@ -72,9 +72,10 @@ FileArgumentList lookAt(const FileArguments &arguments, bool supportedOnly)
         more = readNulEnded(std::cin);
     } else {
         std::ifstream file(*arguments.files0From, std::ios::binary);
-        if (!file)
-            list.refused.push_back({ *arguments.files0From, SystemError::latest().description() });
         more = readNulEnded(file);
+        // A folder opens, but cannot be read.
+        if (!file.is_open() || file.bad())
+            list.refused.push_back({ *arguments.files0From, SystemError::latest().description() });
     }
     for (const std::filesystem::path &path : more)
         look(path, supportedOnly, list);
