@@ -1,0 +1,203 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "suggestion/builtin/readName.h"
+
+#include <algorithm>
+
+namespace Varlo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int longestName = 9; // words
+
+/// Whether what stands between brackets, in lower case or in figures ends the name before it.
+bool isNameWord(const Reading &reading, int index)
+{
+    const Word &word = reading.words[index];
+    if (word.hasDigit || reading.isIdentifierAt(index))
+        return false;
+    return word.isCapitalised || word.folded == "&"_L1 || word.folded == "+"_L1;
+}
+
+/// "van der", "de la", "&" when a capitalised word follows.
+bool connectsAt(const Reading &reading, int index, int limit)
+{
+    for (int next = index; next < limit && next < index + 3; ++next) {
+        const Word &word = reading.words[next];
+        if (next > index && word.isCapitalised && !word.hasDigit)
+            return true;
+        const bool goesOn = isConnector(word.folded) && !word.hasComma && !word.endsSentence && !word.hasColon;
+        if (!goesOn)
+            return false;
+    }
+    return false;
+}
+
+/// "plc" and "ltd" are written small too; "as" and "sa" then are other words.
+bool isWrittenLegalForm(const Word &word)
+{
+    return isLegalForm(word.folded) && (word.isCapitalised || word.folded.size() > 2);
+}
+
+/// "B.V. & Co", "S.A. de C.V.": words that go on behind a legal form.
+int endOfLegalForm(const Reading &reading, int index)
+{
+    int end = index + 1;
+    while (end < reading.words.count()) {
+        const QString &word = reading.words[end].folded;
+        const bool isMexican = word == "de"_L1 && end + 1 < reading.words.count()
+            && (reading.words[end + 1].folded == "cv"_L1 || reading.words[end + 1].folded == "rl"_L1);
+        if (isMexican)
+            end += 2;
+        else if (isLegalForm(word) && reading.words[end].isUpperCase && word.size() > 1)
+            ++end;
+        else
+            break;
+    }
+    return end;
+}
+
+bool startsSentence(const Reading &reading, int index)
+{
+    const Words &words = reading.words;
+    if (!isSentenceOpener(words[index].folded) || index + 1 >= words.count())
+        return false;
+    const Word &next = words[index + 1];
+    return !next.isCapitalised && !next.hasDigit && !isConnector(next.folded);
+}
+
+/// A heading in capitals above a name in mixed case, or the other way round.
+bool changesCase(const Reading &reading, int start, int index)
+{
+    const Words &words = reading.words;
+    const Word &word = words[index];
+    if (isConnector(word.folded) || isLegalForm(word.folded) || word.folded.size() < 2)
+        return false;
+    const auto isUpper = [&words](int at) { return words[at].isUpperCase || isConnector(words[at].folded); };
+    bool isUpperSoFar = words[start].isUpperCase;
+    qsizetype capitals = 0;
+    for (int at = start; at < index; ++at) {
+        isUpperSoFar = isUpperSoFar && isUpper(at);
+        capitals += isConnector(words[at].folded) ? 0 : words[at].folded.size();
+    }
+    // "CEIP Los Almendros" begins with an acronym, "FRESHGATE MARKET Store" does not.
+    constexpr qsizetype longestInitials = 6;
+    if (isUpperSoFar && capitals > longestInitials)
+        return !word.isUpperCase;
+    constexpr qsizetype longestAcronym = 4;
+    return word.isUpperCase && word.folded.size() > longestAcronym && !words[index - 1].isUpperCase;
+}
+
+bool endsBefore(const Reading &reading, int start, int index)
+{
+    const Word &word = reading.words[index];
+    const Word &before = reading.words[index - 1];
+    if (word.isNewPart || word.isOpened || before.isClosed || before.endsSentence || before.hasColon)
+        return true;
+    if (before.hasComma && !isLegalForm(word.folded))
+        return true;
+    const LabelMark *label = reading.labelAt(index);
+    const bool isLabel = label && (word.isCapitalised || reading.words[label->end - 1].hasColon);
+    if (isLabel && !isLegalForm(word.folded) && !isConnector(word.folded))
+        return true;
+    const TypeMark *type = reading.typeAt(index);
+    const bool isHeading = type && type->strength != TypeStrength::Hint && word.isCapitalised;
+    if (isHeading || word.hasColon || reading.isDateAt(index))
+        return true;
+    return beginsStreet(word.folded) || startsSentence(reading, index) || changesCase(reading, start, index);
+}
+
+/// Drops the street's name where the name ran on into an address: "Praktijk Zonnehof Zonnehof 1, 3811 NC".
+int withoutStreet(const Reading &reading, int start, int end)
+{
+    const Words &words = reading.words;
+    const bool isFollowed = end < words.count();
+    if (end - start < 2 || isLegalForm(words[end - 1].folded))
+        return end;
+    const Word &last = words[end - 1];
+    const bool isHouseNumber = isFollowed && words[end].hasDigit && words[end].folded.size() <= 5
+        && !words[end].isNewPart && !reading.isDateAt(end) && !last.hasComma;
+    const bool isNumberAfterStreet = isHouseNumber && reading.language != FilenameLanguage::English;
+    // "Unit 4" and "12 High Street" stand behind the name in English.
+    const bool isStreet = endsStreet(last.folded) && (isHouseNumber || last.hasComma);
+    if (isStreet) {
+        const bool isWhole = !endsStreet(last.folded) || last.folded.size() > 6;
+        const int dropped = isWhole && reading.language == FilenameLanguage::Dutch ? 1 : 2;
+        return std::max(start + 1, end - dropped);
+    }
+    return isNumberAfterStreet ? end - 1 : end;
+}
+
+/// "CEIP Los Almendros Murcia, 10 de enero": a place and a date end a letterhead.
+int withoutPlaceBeforeDate(const Reading &reading, int start, int end)
+{
+    const bool isPlace = end < reading.words.count() && reading.words[end - 1].hasComma && reading.isDateAt(end);
+    if (!isPlace)
+        return end;
+    return isLegalForm(reading.words[end - 1].folded) ? end : std::max(start, end - 1);
+}
+
+/// "Eastmarsh District Council Revenues and Benefits": the noun that says what the organisation is ends its name when
+/// two words or more go on behind it.
+int withoutDepartment(const Reading &reading, int start, int end)
+{
+    const Words &words = reading.words;
+    if (reading.language != FilenameLanguage::English)
+        return end;
+    for (int index = end - 3; index > start; --index) {
+        const bool goesOn = isConnector(words[index + 1].folded) || isLegalForm(words[end - 1].folded);
+        if (isOrganisation(words[index].folded) && !goesOn) {
+            const bool hasLaterNoun = std::any_of(
+                &words[index + 1], &words[end - 1] + 1, [](const Word &word) { return isOrganisation(word.folded); });
+            return hasLaterNoun ? end : index + 1;
+        }
+    }
+    return end;
+}
+
+} // namespace
+
+std::optional<FoundName> readName(const Reading &reading, int start)
+{
+    const Words &words = reading.words;
+    while (start < words.count() && isFormOfAddress(words[start].folded) && !words[start].hasComma)
+        ++start;
+    if (start >= words.count() || !words[start].isCapitalised || words[start].hasDigit)
+        return {};
+    if (startsSentence(reading, start))
+        return {};
+    // "'t Hoekje" and "& Sons" do not begin a name here; initials and particles do.
+    int end = start;
+    bool hasLegalForm = false;
+    const int limit = std::min(words.count(), start + longestName);
+    while (end < limit) {
+        if (end > start && endsBefore(reading, start, end))
+            break;
+        if (end > start && isWrittenLegalForm(words[end])) {
+            end = endOfLegalForm(reading, end);
+            hasLegalForm = true;
+            break;
+        }
+        if (!isNameWord(reading, end) && !(end > start && connectsAt(reading, end, words.count())))
+            break;
+        ++end;
+    }
+    if (!hasLegalForm) {
+        end = withoutStreet(reading, start, end);
+        end = withoutPlaceBeforeDate(reading, start, end);
+        end = withoutDepartment(reading, start, end);
+        while (end > start && (isConnector(words[end - 1].folded) && !words[end - 1].isCapitalised))
+            --end;
+    }
+    if (end <= start)
+        return {};
+    const QString text = words.joined(start, end);
+    constexpr qsizetype shortestName = 2;
+    if (text.size() < shortestName)
+        return {};
+    return FoundName { text, start, end, hasLegalForm };
+}
+
+} // namespace Varlo
