@@ -11,6 +11,12 @@ using namespace Qt::StringLiterals;
 using namespace Varlo;
 using Failure = SecretStore::Failure;
 
+class Gate : public QObject {
+    Q_OBJECT
+signals:
+    void opened();
+};
+
 class APIKeyStoreTest : public QObject {
     Q_OBJECT
 private slots:
@@ -115,10 +121,10 @@ void APIKeyStoreTest::prefersTheEnvironment()
 void APIKeyStoreTest::outlivesItsOwner()
 {
     struct SlowStore final : SecretStore {
-        QObject gate;
+        Gate gate;
         QCoro::Task<Result<QString, Failure>> load(QString) override
         {
-            co_await qCoro(&gate, &QObject::objectNameChanged);
+            co_await qCoro(&gate, &Gate::opened);
             co_return u"key"_s;
         }
         QCoro::Task<Result<void, Failure>> save(QString, QString) override { co_return Result<void, Failure> {}; }
@@ -128,7 +134,7 @@ void APIKeyStoreTest::outlivesItsOwner()
     auto keys = std::make_unique<APIKeyStore>(slow, Endpoint::hosted());
     auto loading = keys->loadKey();
     keys.reset();
-    slow.gate.setObjectName(u"open"_s);
+    emit slow.gate.opened();
     QVERIFY(wait(std::move(loading)) == u"key"_s);
 }
 
