@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/Session.h"
+
+#include "cli/terminalText.h"
+#include "platform/linux/FallbackSecretStore.h"
+#include "platform/linux/FileSecretStore.h"
+#include "platform/linux/SecretServiceStore.h"
+#include "suggestion/BuiltInNamer.h"
+#include "suggestion/ClaudeNameSuggester.h"
+#include <QCoreApplication>
+
+namespace Varlo {
+
+using namespace Qt::StringLiterals;
+
+Session::Session(Environment environment)
+    : m_environment(std::move(environment))
+    , m_folders(StateFolders::from(m_environment))
+{
+}
+
+Session::~Session() = default;
+
+QString Session::environmentValue(const char *name) const
+{
+    const auto variable = m_environment.find(name);
+    return variable == m_environment.end() ? QString() : QString::fromStdString(variable->second);
+}
+
+Preferences &Session::preferences()
+{
+    if (!m_preferences) {
+        m_preferenceStore = std::make_unique<JsonPreferenceStore>(m_folders.config / "preferences.json");
+        m_preferences = std::make_unique<Preferences>(*m_preferenceStore);
+        tellNotices();
+    }
+    return *m_preferences;
+}
+
+void Session::tellNotices()
+{
+    if (!m_preferenceStore)
+        return;
+    const QStringList notices = m_preferenceStore->takeNotices();
+    for (const QString &notice : notices)
+        m_terminal.complain(terminalText(notice));
+}
+
+TemplateStore &Session::templateStore()
+{
+    if (!m_templateStore)
+        m_templateStore = std::make_unique<TemplateStore>(preferences());
+    return *m_templateStore;
+}
+
+RenameLog &Session::renameLog()
+{
+    if (!m_renameLog)
+        m_renameLog = std::make_unique<RenameLog>(preferences(), m_clock);
+    return *m_renameLog;
+}
+
+ContentReader &Session::reader()
+{
+    if (!m_reader)
+        m_reader = std::make_unique<ThreadContentReader>(m_fileFlags);
+    return *m_reader;
+}
+
+SecretStore &Session::secretStore()
+{
+    if (!m_secretStore) {
+        m_keyring = std::make_unique<SecretServiceStore>();
+        m_secretFile = std::make_unique<FileSecretStore>(m_folders.data / "secrets" / "keys.json");
+        m_secretStore = std::make_unique<FallbackSecretStore>(*m_keyring, *m_secretFile);
+    }
+    return *m_secretStore;
+}
+
+std::optional<Endpoint> Session::endpoint(const std::optional<QString> &option)
+{
+    QString address = option.value_or(environmentValue("VARLO_ENDPOINT"));
+    if (address.isEmpty())
+        address = preferences().string(Preference::endpoint);
+    const Result<Endpoint, Endpoint::Error> endpoint = Endpoint::parse(address);
+    if (!endpoint) {
+        m_terminal.complain(terminalText(address) + u": "_s + description(endpoint.error()));
+        return {};
+    }
+    return *endpoint;
+}
+
+APIKeyStore &Session::keyStore(const Endpoint &endpoint)
+{
+    if (!m_keyStore)
+        m_keyStore = std::make_unique<APIKeyStore>(secretStore(), endpoint, environmentValue("VARLO_API_KEY"));
+    return *m_keyStore;
+}
+
+NameSuggestionService *Session::suggester(const NamingOptions &options)
+{
+    if (options.offline) {
+        m_suggester = std::make_unique<BuiltInNamer>();
+        return m_suggester.get();
+    }
+    const std::optional<Endpoint> chosen = endpoint(options.endpoint);
+    if (!chosen)
+        return nullptr;
+    QString model = options.model.value_or(environmentValue("VARLO_MODEL"));
+    if (model.isEmpty())
+        model = preferences().string(Preference::model);
+    APIKeyStore &keys = keyStore(*chosen);
+    m_suggester = std::make_unique<ClaudeNameSuggester>(*chosen, model, [&keys] { return keys.loadKey(); });
+    return m_suggester.get();
+}
+
+std::unique_ptr<RenamerViewModel> Session::makeBatch(NameSuggestionService &suggester)
+{
+    return std::make_unique<RenamerViewModel>(
+        RenamerViewModel::Collaborators { reader(), suggester, templateStore(), renameLog(), preferences(), m_locale });
+}
+
+} // namespace Varlo

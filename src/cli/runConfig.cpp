@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/closestWord.h"
+#include "cli/commands.h"
+#include "cli/FileArgumentList.h"
+#include "cli/terminalText.h"
+#include <array>
+#include <QCoreApplication>
+
+namespace Varlo {
+
+using namespace Qt::StringLiterals;
+
+/// The preferences that the terminal shows and changes; the others have subcommands of their own or belong to the
+/// window.
+static const std::array<const PreferenceKey *, 7> &offeredKeys()
+{
+    static const std::array<const PreferenceKey *, 7> keys { &Preference::uiLanguage, &Preference::writeFinderTags,
+        &Preference::watchFolderEnabled, &Preference::watchFolderPath, &Preference::watchFolderIncludeExisting,
+        &Preference::endpoint, &Preference::model };
+    return keys;
+}
+
+static const PreferenceKey *findKey(const QString &name, Terminal &terminal)
+{
+    std::vector<std::string> names;
+    for (const PreferenceKey *key : offeredKeys()) {
+        if (key->name == name)
+            return key;
+        names.push_back(key->name.toStdString());
+    }
+    QString message = QCoreApplication::translate("Terminal", "there is no preference “%1”").arg(terminalText(name));
+    if (const auto closest = closestWord(name.toStdString(), names)) {
+        message
+            += QCoreApplication::translate("Terminal", "; did you mean “%1”?").arg(QString::fromStdString(*closest));
+    }
+    terminal.complain(message);
+    return nullptr;
+}
+
+static QString shownValue(const PreferenceKey &key, Session &session)
+{
+    if (key.type == PreferenceType::Bool)
+        return session.preferences().boolean(key) ? u"true"_s : u"false"_s;
+    return session.preferences().string(key);
+}
+
+/// The value that the words stand for, or why they stand for none.
+static Result<PreferenceValue, QString> parseValue(const PreferenceKey &key, const QString &words)
+{
+    if (key.type == PreferenceType::Bool) {
+        if (words == "true"_L1 || words == "yes"_L1 || words == "on"_L1)
+            return PreferenceValue(true);
+        if (words == "false"_L1 || words == "no"_L1 || words == "off"_L1)
+            return PreferenceValue(false);
+        return tl::unexpected(QCoreApplication::translate("Terminal", "is either true or false"));
+    }
+    if (&key == &Preference::uiLanguage && !QStringList { u"system"_s, u"en"_s, u"nl"_s, u"es"_s }.contains(words))
+        return tl::unexpected(QCoreApplication::translate("Terminal", "is one of system, en, nl and es"));
+    if (&key == &Preference::endpoint) {
+        const auto endpoint = Endpoint::parse(words);
+        if (!endpoint)
+            return tl::unexpected(description(endpoint.error()));
+    }
+    if (&key == &Preference::watchFolderPath && !words.isEmpty()) {
+        const std::filesystem::path folder = resolvedArgument(words.toStdString());
+        std::error_code error;
+        if (!std::filesystem::is_directory(folder, error))
+            return tl::unexpected(QCoreApplication::translate("Terminal", "is a folder that exists"));
+        return PreferenceValue(QString::fromStdString(folder.native()));
+    }
+    return PreferenceValue(words);
+}
+
+ExitCode run(const ConfigListCommand &, Session &session)
+{
+    for (const PreferenceKey *key : offeredKeys())
+        session.terminal().print(key->name + u" = "_s + terminalText(shownValue(*key, session)));
+    return ExitCode::Success;
+}
+
+ExitCode run(const ConfigGetCommand &command, Session &session)
+{
+    const PreferenceKey *key = findKey(command.key, session.terminal());
+    if (!key)
+        return ExitCode::WrongUsage;
+    session.terminal().print(terminalText(shownValue(*key, session)));
+    return ExitCode::Success;
+}
+
+ExitCode run(const ConfigSetCommand &command, Session &session)
+{
+    Terminal &terminal = session.terminal();
+    const PreferenceKey *key = findKey(command.key, terminal);
+    if (!key)
+        return ExitCode::WrongUsage;
+    const Result<PreferenceValue, QString> value = parseValue(*key, command.value);
+    if (!value) {
+        terminal.complain(key->name + u": "_s + value.error());
+        return ExitCode::WrongUsage;
+    }
+    const Result<void, SystemError> stored = session.preferences().set(*key, *value);
+    session.tellNotices();
+    if (stored)
+        return ExitCode::Success;
+    terminal.complain(QCoreApplication::translate("Terminal", "the preference could not be stored: %1")
+                          .arg(stored.error().description()));
+    return ExitCode::SomeFailed;
+}
+
+} // namespace Varlo

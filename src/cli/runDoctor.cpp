@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/commands.h"
+#include "cli/terminalText.h"
+#include "platform/shownPath.h"
+#include <QCoreApplication>
+#include <QCoroTask>
+#include <QJsonObject>
+#include <unistd.h>
+
+namespace Varlo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Finding {
+    QString subject;
+    bool isGood = true;
+    QString detail;
+    QString mend; ///< "" where nothing has to be done
+};
+
+} // namespace
+
+static QString translate(const char *text) { return QCoreApplication::translate("Doctor", text); }
+
+/// Whether something could be stored in the folder, or in the nearest one above it that exists.
+static Finding lookAtFolder(const QString &subject, const std::filesystem::path &folder)
+{
+    std::filesystem::path existing = folder;
+    std::error_code error;
+    while (!std::filesystem::exists(existing, error) && existing.has_relative_path())
+        existing = existing.parent_path();
+    const QString shown = terminalText(folder);
+    if (std::filesystem::is_directory(existing, error) && ::access(existing.c_str(), W_OK | X_OK) == 0)
+        return { subject, true, shown, {} };
+    return { subject, false, translate(QT_TRANSLATE_NOOP("Doctor", "%1 cannot be written")).arg(shown),
+        translate(QT_TRANSLATE_NOOP("Doctor", "make %1 a folder of yours")).arg(terminalText(existing)) };
+}
+
+static Finding lookAtKey(Session &session, const Endpoint &endpoint)
+{
+    const QString subject = translate(QT_TRANSLATE_NOOP("Doctor", "API key"));
+    const auto key = QCoro::waitFor(session.keyStore(endpoint).loadKey());
+    if (key)
+        return { subject, true, translate(QT_TRANSLATE_NOOP("Doctor", "stored for %1")).arg(endpoint.origin()), {} };
+    switch (key.error()) {
+    case SecretStore::Failure::NotFound:
+        return { subject, false, translate(QT_TRANSLATE_NOOP("Doctor", "none for %1")).arg(endpoint.origin()),
+            translate(QT_TRANSLATE_NOOP("Doctor", "store one with `varlo key set`, or use --offline")) };
+    case SecretStore::Failure::Locked:
+        return { subject, false, translate(QT_TRANSLATE_NOOP("Doctor", "the keyring is locked")),
+            translate(QT_TRANSLATE_NOOP("Doctor", "unlock the keyring, for example by logging in to the desktop")) };
+    case SecretStore::Failure::Unavailable:
+        return { subject, false, translate(QT_TRANSLATE_NOOP("Doctor", "the secret store does not answer")),
+            translate(QT_TRANSLATE_NOOP("Doctor", "restart the desktop's keyring service")) };
+    }
+    Q_UNREACHABLE();
+}
+
+static QList<Finding> examine(const DoctorCommand &command, Session &session)
+{
+    QList<Finding> findings {
+        lookAtFolder(translate(QT_TRANSLATE_NOOP("Doctor", "Settings")), session.folders().config),
+        lookAtFolder(translate(QT_TRANSLATE_NOOP("Doctor", "State")), session.folders().state),
+    };
+    if (const std::optional<Endpoint> endpoint = session.endpoint(command.endpoint)) {
+        findings.append({ translate(QT_TRANSLATE_NOOP("Doctor", "Endpoint")), true,
+            terminalText(endpoint->messagesUrl().toString()), {} });
+        findings.append(lookAtKey(session, *endpoint)); // the store has said then which one it is
+    } else {
+        findings.append({ translate(QT_TRANSLATE_NOOP("Doctor", "Endpoint")), false,
+            translate(QT_TRANSLATE_NOOP("Doctor", "it cannot be used")),
+            translate(QT_TRANSLATE_NOOP("Doctor", "give another one with `varlo config set endpoint URL`")) });
+    }
+    findings.append({ translate(QT_TRANSLATE_NOOP("Doctor", "Secret store")), true,
+        terminalText(session.secretStore().description()), {} });
+    return findings;
+}
+
+ExitCode run(const DoctorCommand &command, Session &session)
+{
+    Terminal &terminal = session.terminal();
+    std::vector<TableRow> rows;
+    bool isAllGood = true;
+    for (const Finding &finding : examine(command, session)) {
+        isAllGood = isAllGood && finding.isGood;
+        if (command.json) {
+            QJsonObject object { { u"subject"_s, finding.subject }, { u"good"_s, finding.isGood },
+                { u"detail"_s, finding.detail } };
+            if (!finding.mend.isEmpty())
+                object.insert(u"mend"_s, finding.mend);
+            terminal.printJson(object);
+            continue;
+        }
+        const QString mend = finding.mend.isEmpty() ? QString() : u" – "_s + finding.mend;
+        rows.push_back({ finding.isGood ? TableCell { u"ok"_s, Colour::Green } : TableCell { u"!"_s, Colour::Red },
+            { finding.subject, Colour::Plain }, { finding.detail + mend, Colour::Plain } });
+    }
+    for (const TableRow &row : rows)
+        terminal.print(row[0].text.leftJustified(3) + row[1].text.leftJustified(14) + row[2].text);
+    return isAllGood ? ExitCode::Success : ExitCode::SomeFailed;
+}
+
+} // namespace Varlo

@@ -1,0 +1,158 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/commands.h"
+#include "cli/FileArgumentList.h"
+#include "cli/terminalText.h"
+#include <csignal>
+#include <map>
+#include <memory>
+#include <QCoreApplication>
+#include <QCoroTask>
+#include <unistd.h>
+
+namespace Varlo {
+
+using namespace Qt::StringLiterals;
+
+static QJsonObject toJson(const FileContent &content)
+{
+    return std::visit(Overloaded {
+                          [](const TextContent &text) -> QJsonObject {
+                              return { { u"kind"_s, u"text"_s }, { u"text"_s, text.text } };
+                          },
+                          [](const ImageContent &image) -> QJsonObject {
+                              QJsonObject object { { u"kind"_s, u"image"_s }, { u"mimeType"_s, image.mimeType },
+                                  { u"byteCount"_s, image.data.size() } };
+                              if (image.metadata)
+                                  object.insert(u"metadata"_s, *image.metadata);
+                              return object;
+                          },
+                      },
+        content);
+}
+
+static QJsonObject toJson(const std::filesystem::path &path, const Extraction &extraction)
+{
+    QJsonObject object;
+    const auto setResult = [&object](const QString &result) { object.insert(u"result"_s, result); };
+    std::visit(Overloaded {
+                   [&](const FileContent &content) {
+                       object = toJson(content);
+                       setResult(u"content"_s);
+                   },
+                   [&](const Unreadable &unreadable) {
+                       setResult(u"unreadable"_s);
+                       object.insert(u"message"_s, unreadable.message);
+                   },
+                   [&](NoTextFound) { setResult(u"noTextFound"_s); },
+                   [&](NotSupportedYet) { setResult(u"notSupportedYet"_s); },
+               },
+        extraction);
+    insertPath(object, u"path"_s, path);
+    return object;
+}
+
+static QString summary(const FileContent &content)
+{
+    return std::visit(Overloaded {
+                          [](const TextContent &text) { return terminalText(text.text); },
+                          [](const ImageContent &image) {
+                              const QString size = QCoreApplication::translate("Terminal", "%1, %2 bytes")
+                                                       .arg(image.mimeType)
+                                                       .arg(image.data.size());
+                              return image.metadata ? size + u'\n' + *image.metadata : size;
+                          },
+                      },
+        content);
+}
+
+namespace {
+
+/// Reads five files at a time; people get the results in the order of their arguments, scripts as they complete.
+class ExtractRun {
+public:
+    ExtractRun(const ExtractCommand &command, Session &session)
+        : m_json(command.json)
+        , m_terminal(session.terminal())
+        , m_reader(session.reader())
+    {
+        for (const std::filesystem::path &file : command.files)
+            m_paths.push_back(resolvedArgument(file));
+    }
+
+    QCoro::Task<void> readAll()
+    {
+        constexpr int maximumInFlight = 5;
+        std::vector<QCoro::Task<void>> lanes;
+        for (int lane = 0; lane < maximumInFlight; ++lane)
+            lanes.push_back(readSome());
+        for (QCoro::Task<void> &lane : lanes)
+            co_await lane;
+    }
+
+    [[nodiscard]] bool hasFailures() const { return m_hasFailures; }
+
+private:
+    QCoro::Task<void> readSome()
+    {
+        while (m_next < m_paths.size()) {
+            const std::size_t index = m_next++;
+            Extraction extraction = co_await m_reader.read(m_paths[index]);
+            take(index, std::move(extraction));
+        }
+    }
+
+    void take(std::size_t index, Extraction extraction)
+    {
+        m_hasFailures = m_hasFailures || std::holds_alternative<Unreadable>(extraction)
+            || std::holds_alternative<NotSupportedYet>(extraction);
+        if (m_json) {
+            m_terminal.printJson(toJson(m_paths[index], extraction));
+            return;
+        }
+        m_waiting.emplace(index, std::move(extraction));
+        for (auto first = m_waiting.begin(); first != m_waiting.end() && first->first == m_nextPrinted;
+             first = m_waiting.erase(first), ++m_nextPrinted)
+            print(first->first, first->second);
+    }
+
+    void print(std::size_t index, const Extraction &extraction)
+    {
+        const QString file = pathFromHere(m_paths[index]);
+        const auto complain = [&](const QString &message) { m_terminal.complain(file + u": "_s + message); };
+        std::visit(Overloaded {
+                       [&](const FileContent &content) {
+                           if (m_paths.size() > 1)
+                               m_terminal.print(u"==> %1 <=="_s.arg(file));
+                           m_terminal.print(summary(content));
+                       },
+                       [&](const Unreadable &unreadable) { complain(terminalText(unreadable.message)); },
+                       [&](NoTextFound) { complain(QCoreApplication::translate("Terminal", "No text found")); },
+                       [&](NotSupportedYet) {
+                           complain(QCoreApplication::translate("Terminal", "This type of file is not supported yet."));
+                       },
+                   },
+            extraction);
+    }
+
+    bool m_json;
+    Terminal &m_terminal;
+    ContentReader &m_reader;
+    std::vector<std::filesystem::path> m_paths;
+    std::size_t m_next = 0;
+    std::map<std::size_t, Extraction> m_waiting; // read, but an earlier one is not yet
+    std::size_t m_nextPrinted = 0;
+    bool m_hasFailures = false;
+};
+
+} // namespace
+
+ExitCode run(const ExtractCommand &command, Session &session)
+{
+    std::signal(SIGINT, [](int) { ::_exit(static_cast<int>(ExitCode::Interrupted)); });
+    ExtractRun extraction(command, session);
+    QCoro::waitFor(extraction.readAll());
+    return extraction.hasFailures() ? ExitCode::SomeFailed : ExitCode::Success;
+}
+
+} // namespace Varlo

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/commands.h"
+#include "cli/FileArgumentList.h"
+#include "cli/suggestNames.h"
+#include "cli/terminalText.h"
+#include <algorithm>
+#include <QCoreApplication>
+
+namespace Varlo {
+
+using namespace Qt::StringLiterals;
+
+static TableCell suggestionCell(const FileItem &item)
+{
+    const auto statusCell = [&item](Colour colour) { return TableCell { label(item.status), colour }; };
+    return std::visit(Overloaded {
+                          [&](FileItem::Suggested) {
+                              return TableCell { terminalText(suggestedFileName(item)), Colour::Green };
+                          },
+                          [](const FileItem::Failed &failed) {
+                              return TableCell { terminalText(failed.message), Colour::Red };
+                          },
+                          [&](FileItem::Pending) { return statusCell(Colour::Dim); },
+                          [&](FileItem::Processing) { return statusCell(Colour::Dim); },
+                          [&](FileItem::Renamed) { return statusCell(Colour::Dim); },
+                          [&](FileItem::AlreadyRenamed) { return statusCell(Colour::Dim); },
+                          [&](FileItem::NoTextFound) { return statusCell(Colour::Yellow); },
+                          [&](FileItem::NotSupportedYet) { return statusCell(Colour::Yellow); },
+                      },
+        item.status);
+}
+
+static void printTable(const std::vector<FileItem> &items, Terminal &terminal)
+{
+    const bool hasTags = std::ranges::any_of(items, [](const FileItem &item) { return !item.suggestedTags.isEmpty(); });
+    QStringList headings { QCoreApplication::translate("Terminal", "File"),
+        QCoreApplication::translate("Terminal", "Suggested name") };
+    if (hasTags)
+        headings.append(QCoreApplication::translate("Terminal", "Tags"));
+    std::vector<TableRow> rows;
+    for (const FileItem &item : items) {
+        rows.push_back({ { pathFromHere(item.path), Colour::Plain }, suggestionCell(item) });
+        if (hasTags)
+            rows.back().push_back({ terminalText(item.suggestedTags.join(u", "_s)), Colour::Dim });
+    }
+    terminal.printTable(headings, rows);
+}
+
+ExitCode run(const SuggestCommand &command, Session &session)
+{
+    Terminal &terminal = session.terminal();
+    const auto whenDone = [&](const FileItem &item) {
+        if (command.json)
+            terminal.printJson(toJson(item));
+    };
+    const std::optional<NamedBatch> named = suggestNames(command.naming, command.arguments, session, whenDone);
+    if (!named)
+        return ExitCode::WrongUsage;
+    const std::vector<FileItem> &items = named->batch->files();
+    if (!command.json && !items.empty())
+        printTable(items, terminal);
+    const bool someFailed = named->hasRefusedArguments || std::ranges::any_of(items, hasFailed);
+    return someFailed ? ExitCode::SomeFailed : ExitCode::Success;
+}
+
+} // namespace Varlo

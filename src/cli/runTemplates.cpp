@@ -1,0 +1,93 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/commands.h"
+#include "cli/terminalText.h"
+#include <QCoreApplication>
+
+namespace Varlo {
+
+using namespace Qt::StringLiterals;
+
+static ExitCode saved(const Result<void, SystemError> &result, Terminal &terminal)
+{
+    if (result)
+        return ExitCode::Success;
+    terminal.complain(QCoreApplication::translate("Terminal", "the templates could not be stored: %1")
+                          .arg(result.error().description()));
+    return ExitCode::SomeFailed;
+}
+
+static ExitCode complainOfUnknown(const QString &id, Terminal &terminal)
+{
+    terminal.complain(
+        QCoreApplication::translate("Terminal", "there is no template with the id “%1”").arg(terminalText(id)));
+    return ExitCode::WrongUsage;
+}
+
+ExitCode run(const TemplatesListCommand &command, Session &session)
+{
+    Terminal &terminal = session.terminal();
+    const QList<NameTemplate> templates = session.templateStore().templates();
+    if (command.json) {
+        for (const NameTemplate &nameTemplate : templates)
+            terminal.printJson(toJson(nameTemplate));
+        return ExitCode::Success;
+    }
+    std::vector<TableRow> rows;
+    for (const NameTemplate &nameTemplate : templates) {
+        QStringList fields;
+        for (const TemplateField field : nameTemplate.fields)
+            fields.append(rawValue(field));
+        rows.push_back({ { terminalText(nameTemplate.id), Colour::Plain },
+            { terminalText(templateTitle(nameTemplate)), Colour::Plain }, { fields.join(u' '), Colour::Plain },
+            { nameTemplate.exampleName(systemFilenameLanguage(session.locale())), Colour::Dim } });
+    }
+    terminal.printTable(
+        { QCoreApplication::translate("Terminal", "Id"), QCoreApplication::translate("Terminal", "Name"),
+            QCoreApplication::translate("Terminal", "Fields"), QCoreApplication::translate("Terminal", "Example") },
+        rows);
+    return ExitCode::Success;
+}
+
+ExitCode run(const TemplatesAddCommand &command, Session &session)
+{
+    TemplateStore &store = session.templateStore();
+    const Result<QString, SystemError> id = store.addTemplate(command.fields);
+    if (!id)
+        return saved(tl::unexpected(id.error()), session.terminal());
+    if (!command.name.isEmpty()) {
+        const auto named = store.updateTemplate({ *id, command.name, command.fields });
+        if (!named)
+            return saved(named, session.terminal());
+    }
+    session.terminal().print(*id);
+    return ExitCode::Success;
+}
+
+ExitCode run(const TemplatesEditCommand &command, Session &session)
+{
+    TemplateStore &store = session.templateStore();
+    std::optional<NameTemplate> nameTemplate = store.nameTemplate(command.id);
+    if (!nameTemplate)
+        return complainOfUnknown(command.id, session.terminal());
+    if (command.name)
+        nameTemplate->name = command.name;
+    if (!command.fields.isEmpty())
+        nameTemplate->fields = command.fields;
+    return saved(store.updateTemplate(*nameTemplate), session.terminal());
+}
+
+ExitCode run(const TemplatesRemoveCommand &command, Session &session)
+{
+    TemplateStore &store = session.templateStore();
+    if (!store.nameTemplate(command.id))
+        return complainOfUnknown(command.id, session.terminal());
+    if (builtInTemplateName(command.id)) {
+        session.terminal().complain(
+            QCoreApplication::translate("Terminal", "the built-in templates cannot be removed"));
+        return ExitCode::WrongUsage;
+    }
+    return saved(store.deleteTemplate(command.id), session.terminal());
+}
+
+} // namespace Varlo
