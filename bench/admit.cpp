@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Admits the files of a folder to a batch, as a drop on the window does, and nothing else.
+// Prints how many there are, what they take in memory, and the longest time for which the event loop stood still.
+#include "fakes/FakeClock.h"
+#include "fakes/FakeContentReader.h"
+#include "fakes/FakeNameSuggester.h"
+#include "fakes/FakePreferenceStore.h"
+#include "fakes/FakeSystemLocale.h"
+#include "workflow/RenamerViewModel.h"
+#include <algorithm>
+#include <fstream>
+#include <iostream>
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QTimer>
+#include <unistd.h>
+
+using namespace Varlo;
+
+static qint64 residentKiB()
+{
+    qint64 pages = 0;
+    std::ifstream("/proc/self/statm") >> pages >> pages;
+    return pages * ::sysconf(_SC_PAGESIZE) / 1024;
+}
+
+int main(int argumentCount, char **arguments)
+{
+    QCoreApplication application(argumentCount, arguments);
+    FakePreferenceStore store;
+    Preferences preferences(store);
+    TemplateStore templates(preferences);
+    FakeClock clock;
+    RenameLog log(preferences, clock);
+    FakeContentReader reader;
+    FakeNameSuggester suggester;
+    FakeSystemLocale locale;
+    RenamerViewModel batch({ reader, suggester, templates, log, preferences, locale });
+
+    QElapsedTimer sinceTick;
+    qint64 longestStallNs = 0;
+    QTimer ticks;
+    QObject::connect(&ticks, &QTimer::timeout, [&] {
+        longestStallNs = std::max(longestStallNs, sinceTick.nsecsElapsed());
+        sinceTick.start();
+    });
+    const qint64 before = residentKiB();
+    sinceTick.start();
+    ticks.start(5); // a tick a turn of the loop would cost more than the admission
+    std::vector<std::filesystem::path> folders(arguments + 1, arguments + argumentCount);
+    QCoro::waitFor(batch.addFiles(std::move(folders), true));
+    const auto count = static_cast<qint64>(batch.files().size());
+    std::cout << count << " files, " << (residentKiB() - before) * 1024 / std::max<qint64>(1, count)
+              << " bytes each, event loop still for at most " << longestStallNs / 1000000 << " ms\n";
+}
