@@ -2,17 +2,32 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/RenameLog.h"
 
+#include "history/applyHistoryChanges.h"
+#include "platform/pathExtension.h"
 #include "platform/shownPath.h"
 #include <algorithm>
+#include <QScopedValueRollback>
+#include <sys/stat.h>
 
 namespace Varlo {
 
-RenameLog::RenameLog(Preferences &preferences, const Clock &clock, QObject *parent)
+using std::filesystem::path;
+
+/// Data that is no log reads as an empty one.
+static RenameLogEntries decoded(const QByteArray &data) { return decodeRenameLog(data).value_or(RenameLogEntries {}); }
+
+RenameLog::RenameLog(Preferences &preferences, FileRenamer &renamer, FolderAccess &access, QObject *parent)
     : QAbstractListModel(parent)
     , m_preferences(preferences)
-    , m_clock(clock)
+    , m_renamer(renamer)
+    , m_access(access)
 {
-    load();
+    connect(&preferences, &Preferences::changed, this, [this](const QString &name) {
+        if (name == Preference::renameLog.name && !m_isStoring)
+            adopt(applyHistoryChanges(decoded(m_preferences.data(Preference::renameLog)), m_renamer.journal().peek()));
+    });
+    if (m_renamer.journal().isEmpty() || !store())
+        adopt(applyHistoryChanges(decoded(m_preferences.data(Preference::renameLog)), m_renamer.journal().peek()));
 }
 
 int RenameLog::rowCount(const QModelIndex &parent) const
@@ -91,39 +106,238 @@ void RenameLog::removeOldest(std::size_t count)
     endRemoveRows();
 }
 
-void RenameLog::record(const std::filesystem::path &from, const std::filesystem::path &to)
+void RenameLog::append(const Entry &entry)
 {
-    const Entry entry { standardizedPath(from), standardizedPath(to), secondsSince2001(m_clock.now()), std::nullopt };
     const int row = rowCount();
     beginInsertRows({}, row, row);
     m_entries.push_back(entry);
     countStanding(entry, 1);
     endInsertRows();
-    if (m_entries.size() > maximumEntries)
-        removeOldest(m_entries.size() - maximumEntries);
-    save();
+    if (m_entries.size() > maximumLogEntries)
+        removeOldest(m_entries.size() - maximumLogEntries);
 }
 
-void RenameLog::clear()
+static bool areSameRenames(const RenameLogEntries &left, const RenameLogEntries &right)
 {
-    removeOldest(m_entries.size());
-    save();
+    return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+        [](const RenameLogEntry &one, const RenameLogEntry &other) {
+            return one.date == other.date && one.toPath == other.toPath && one.fromPath == other.fromPath;
+        });
 }
 
-void RenameLog::load()
+/// Shows these entries, and says no more than what differs from those shown now, so that a selection lives on.
+void RenameLog::adopt(RenameLogEntries entries)
 {
-    beginResetModel();
-    m_entries = decodeRenameLog(m_preferences.data(Preference::renameLog)).value_or(std::vector<Entry> {});
+    if (entries == m_entries)
+        return;
+    const bool isSameRows = areSameRenames(entries, m_entries);
+    if (!isSameRows)
+        beginResetModel();
+    m_entries = std::move(entries);
     m_standingNames.clear();
     for (const Entry &entry : m_entries)
         countStanding(entry, 1);
-    endResetModel();
+    if (!isSameRows)
+        endResetModel();
+    else
+        emit dataChanged(index(0), index(rowCount() - 1), { UndoneRole });
 }
 
-void RenameLog::save()
+RenameLog::Action RenameLog::beginAction()
 {
-    // Nothing can be done here about a disk that refuses: the log goes on in memory, and the next save tries again.
-    static_cast<void>(m_preferences.set(Preference::renameLog, encodeRenameLog(m_entries)));
+    ++m_openActions;
+    return Action(this);
 }
+
+void RenameLog::endAction()
+{
+    --m_openActions;
+    storeUnlessInAction();
+}
+
+void RenameLog::storeUnlessInAction()
+{
+    // Longer than any batch makes it in one go; a journal must not grow without end in a very long one.
+    constexpr qint64 longJournal = 8 * 1024 * 1024;
+    const bool isLater = m_openActions > 0 || m_renamer.isRenaming();
+    if (isLater && m_renamer.journal().size() < longJournal)
+        return;
+    // What the disk refuses now is in the journal, and the next action or the next start stores it.
+    static_cast<void>(store());
+}
+
+/// Puts what the journal has into the preferences, and then out of the journal.
+Result<void, SystemError> RenameLog::store()
+{
+    RenameJournal &journal = m_renamer.journal();
+    const auto session = journal.enter();
+    if (!session)
+        return tl::unexpected(session.error());
+    const QScopedValueRollback isStoring(m_isStoring, true);
+    const std::vector<HistoryChange> changes = journal.changes();
+    RenameLogEntries entries;
+    Result<void, SystemError> kept;
+    const auto stored = m_preferences.update(Preference::renameLog, [&](const PreferenceValue &current) {
+        const auto &data = std::get<QByteArray>(current);
+        const auto log = decodeRenameLog(data);
+        entries = applyHistoryChanges(log.value_or(RenameLogEntries {}), changes);
+        if (changes.empty())
+            return current;
+        if (!log && !data.isEmpty())
+            kept = m_preferences.keepCopy();
+        return kept ? PreferenceValue(encodeRenameLog(entries)) : current;
+    });
+    if (!stored || !kept)
+        return stored ? kept : stored;
+    m_foreignChangesSeen = journal.foreignChanges();
+    // A list of files being renamed is ahead of its outcomes in the journal; its end comes through here again.
+    if (!m_renamer.isRenaming())
+        adopt(std::move(entries));
+    return journal.forgetChanges();
+}
+
+/// Within a session: takes over what another process stored. The preferences read the disk only when they are changed.
+void RenameLog::readAgain()
+{
+    if (m_foreignChangesSeen == m_renamer.journal().foreignChanges())
+        return;
+    m_foreignChangesSeen = m_renamer.journal().foreignChanges();
+    const QScopedValueRollback isStoring(m_isStoring, true);
+    static_cast<void>(
+        m_preferences.update(Preference::renameLog, [](const PreferenceValue &current) { return current; }));
+    adopt(applyHistoryChanges(decoded(m_preferences.data(Preference::renameLog)), m_renamer.journal().changes()));
+}
+
+void RenameLog::record(const path &from, const path &to)
+{
+    const std::optional<double> noted = m_renamer.takeDate(from, to);
+    const Entry entry { standardizedPath(from), standardizedPath(to), noted ? *noted : m_renamer.nextDate(),
+        std::nullopt };
+    append(entry);
+    if (!noted)
+        noteReported(entry);
+    storeUnlessInAction();
+}
+
+/// A rename that was made by other means than ours, or that had nothing to move.
+void RenameLog::noteReported(const Entry &entry)
+{
+    const JournalRecord record = RenameReported { entry.fromPath.native(), entry.toPath.native(), entry.date };
+    const auto session = m_renamer.journal().enter();
+    if (session && m_renamer.journal().append({ &record, 1 }, RenameJournal::Durability::Synced))
+        return;
+    const QScopedValueRollback isStoring(m_isStoring, true);
+    static_cast<void>(m_preferences.update(Preference::renameLog, [&](const PreferenceValue &current) {
+        const auto log = decodeRenameLog(std::get<QByteArray>(current));
+        if (!log)
+            return current;
+        return PreferenceValue(
+            encodeRenameLog(applyHistoryChanges(*log, { RenameAdded { entry.fromPath, entry.toPath, entry.date } })));
+    }));
+}
+
+Result<void, SystemError> RenameLog::clear()
+{
+    const auto session = m_renamer.journal().enter();
+    if (!session)
+        return tl::unexpected(session.error());
+    const JournalRecord record = HistoryCleared {};
+    if (const auto noted = m_renamer.journal().append({ &record, 1 }, RenameJournal::Durability::Synced); !noted)
+        return noted;
+    removeOldest(m_entries.size());
+    storeUnlessInAction();
+    return {};
+}
+
+RenameLogEntries::iterator RenameLog::find(const QString &id)
+{
+    return std::find_if(m_entries.begin(), m_entries.end(), [&](const Entry &entry) { return entry.id() == id; });
+}
+
+static bool isMissing(const path &file)
+{
+    struct stat status { };
+    return ::lstat(file.c_str(), &status) != 0 && (errno == ENOENT || errno == ENOTDIR);
+}
+
+RenameLog::RevertAttempt RenameLog::attemptRevert(const QString &id)
+{
+    // From the look at the entry to its mark nobody else may take the same rename back.
+    const auto session = m_renamer.journal().enter();
+    if (!session)
+        return tl::unexpected(RevertFailure(RenameFailure(HistoryNotWritable { session.error() })));
+    readAgain();
+    const auto entry = find(id);
+    if (entry == m_entries.end() || !entry->isStanding())
+        return std::nullopt;
+    const path renamedPath = entry->toPath;
+    if (isMissing(renamedPath))
+        return tl::unexpected(RevertFailure(FileMissing {}));
+    m_access.beginAccess(renamedPath.parent_path());
+    const auto takenBack = m_renamer.takeBack(renamedPath, baseName(entry->fromPath), entry->date);
+    if (!takenBack)
+        return tl::unexpected(RevertFailure(takenBack.error()));
+    countStanding(*entry, -1);
+    entry->undoneAt = takenBack->undoneAt;
+    const QModelIndex changed = index(static_cast<int>(entry - m_entries.begin()));
+    emit dataChanged(changed, changed, { UndoneRole });
+    storeUnlessInAction();
+    return Reverted { renamedPath, takenBack->path };
+}
+
+QString RenameLog::description(const RevertFailure &failure)
+{
+    return std::visit(Overloaded {
+                          //: Error when a rename cannot be reverted because the file is gone
+                          [](FileMissing) { return tr("The file could not be found at its renamed location."); },
+                          [](const RenameFailure &refusal) { return Varlo::description(refusal); },
+                      },
+        failure);
+}
+
+RenameLog::RevertOutcome RenameLog::announce(const RevertAttempt &attempt)
+{
+    if (!attempt)
+        return tl::unexpected(description(attempt.error()));
+    if (!*attempt)
+        return std::optional<path> {};
+    const Reverted done = **attempt;
+    emit reverted(done.renamedPath, done.restoredPath);
+    return done.restoredPath;
+}
+
+static bool isWorthAsking(const RenameFailure *failure) { return failure && isPermissionDenied(*failure); }
+
+QCoro::Task<RenameLog::RevertOutcome> RenameLog::revert(QString id)
+{
+    const RevertAttempt attempt = attemptRevert(id);
+    const auto entry = find(id);
+    if (attempt || entry == m_entries.end() || !isWorthAsking(std::get_if<RenameFailure>(&attempt.error())))
+        co_return announce(attempt);
+    const QPointer<RenameLog> self = this;
+    const path folder = entry->toPath.parent_path();
+    const bool isGranted = co_await m_access.requestAccess(folder);
+    if (!self)
+        co_return std::optional<path> {};
+    if (!isGranted)
+        co_return announce(attempt);
+    const RevertAttempt second = attemptRevert(id);
+    co_return announce(second);
+}
+
+QCoro::Task<RenameLog::RevertOutcome> RenameLog::revertLatest()
+{
+    if (const auto session = m_renamer.journal().enter())
+        readAgain();
+    const auto newest
+        = std::find_if(m_entries.rbegin(), m_entries.rend(), [](const Entry &entry) { return entry.isStanding(); });
+    if (newest == m_entries.rend())
+        co_return std::optional<path> {};
+    const QString id = newest->id();
+    const RevertOutcome outcome = co_await revert(id);
+    co_return outcome;
+}
+
+QStringList RenameLog::takeNotices() { return m_renamer.journal().takeNotices(); }
 
 } // namespace Varlo

@@ -62,7 +62,7 @@ static std::optional<std::filesystem::path> pathIn(const QJsonObject &object, co
     return std::filesystem::path(bytes.decoded.toStdString());
 }
 
-QByteArray encodeRenameLog(const std::vector<RenameLogEntry> &entries)
+QByteArray encodeRenameLog(const RenameLogEntries &entries)
 {
     QJsonArray array;
     for (const RenameLogEntry &entry : entries) {
@@ -95,12 +95,12 @@ static std::optional<RenameLogEntry> decodeEntry(const QJsonValue &value)
     return entry;
 }
 
-std::optional<std::vector<RenameLogEntry>> decodeRenameLog(const QByteArray &data)
+std::optional<RenameLogEntries> decodeRenameLog(const QByteArray &data)
 {
     const QJsonDocument document = QJsonDocument::fromJson(data);
     if (!document.isArray())
         return std::nullopt;
-    std::vector<RenameLogEntry> entries;
+    RenameLogEntries entries;
     for (const QJsonValue &value : document.array()) {
         const std::optional<RenameLogEntry> entry = decodeEntry(value);
         if (!entry)

@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <deque>
 #include <filesystem>
 #include <optional>
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>
-#include <vector>
 
 namespace Varlo {
 
@@ -25,14 +25,17 @@ struct RenameLogEntry {
     bool operator==(const RenameLogEntry &) const = default;
 };
 
+/// Oldest first.
+using RenameLogEntries = std::deque<RenameLogEntry>;
+
 /// Seconds since 2001-01-01 00:00:00 UTC, to the millisecond.
 [[nodiscard]] double secondsSince2001(const QDateTime &time);
 /// The reverse; a number of seconds that no calendar reaches gives an invalid time.
 [[nodiscard]] QDateTime timeFromSecondsSince2001(double seconds);
 
 /// A JSON array of objects, oldest first. A path whose bytes are not UTF-8 has them in a second key, in base64.
-[[nodiscard]] QByteArray encodeRenameLog(const std::vector<RenameLogEntry> &entries);
+[[nodiscard]] QByteArray encodeRenameLog(const RenameLogEntries &entries);
 /// Nothing when the data is anything but such an array.
-[[nodiscard]] std::optional<std::vector<RenameLogEntry>> decodeRenameLog(const QByteArray &data);
+[[nodiscard]] std::optional<RenameLogEntries> decodeRenameLog(const QByteArray &data);
 
 } // namespace Varlo

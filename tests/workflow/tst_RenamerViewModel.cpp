@@ -18,6 +18,10 @@ using Path = std::filesystem::path;
 
 namespace {
 
+struct NoPanel final : FolderAccessPanel {
+    [[nodiscard]] QCoro::Task<std::optional<Path>> ask(Path) override { co_return std::nullopt; }
+};
+
 /// A batch with everything around it faked, and a folder of real files.
 struct Bench {
     QTemporaryDir temporary;
@@ -26,7 +30,11 @@ struct Bench {
     Preferences preferences { store };
     TemplateStore templates { preferences };
     FakeClock clock;
-    RenameLog log { preferences, clock };
+    NoPanel panel;
+    RenameJournal journal { folder / ".state" };
+    FileRenamer renamer { journal, clock };
+    FolderAccess access { preferences, panel };
+    RenameLog log { preferences, renamer, access };
     FakeContentReader reader;
     FakeNameSuggester suggester;
     FakeSystemLocale locale;
