@@ -325,17 +325,28 @@ QCoro::Task<RenameLog::RevertOutcome> RenameLog::revert(QString id)
     co_return announce(second);
 }
 
-QCoro::Task<RenameLog::RevertOutcome> RenameLog::revertLatest()
+/// The entry to take back; nothing when none stands.
+std::optional<QString> RenameLog::latestStanding()
 {
     if (const auto session = m_renamer.journal().enter())
         readAgain();
     const auto newest
         = std::find_if(m_entries.rbegin(), m_entries.rend(), [](const Entry &entry) { return entry.isStanding(); });
-    if (newest == m_entries.rend())
-        co_return std::optional<path> {};
-    const QString id = newest->id();
-    const RevertOutcome outcome = co_await revert(id);
-    co_return outcome;
+    return newest == m_entries.rend() ? std::nullopt : std::optional(newest->id());
+}
+
+QCoro::Task<RenameLog::RevertOutcome> RenameLog::revertLatest()
+{
+    const QPointer<RenameLog> self = this;
+    std::optional<QString> id = latestStanding();
+    while (id) {
+        const RevertOutcome outcome = co_await revert(*id);
+        const bool isTakenByAnother = outcome && !*outcome;
+        if (!isTakenByAnother || !self)
+            co_return outcome;
+        id = latestStanding();
+    }
+    co_return std::optional<path> {};
 }
 
 QStringList RenameLog::takeNotices() { return m_renamer.journal().takeNotices(); }

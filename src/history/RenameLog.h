@@ -92,6 +92,7 @@ private:
     [[nodiscard]] static QString description(const RevertFailure &failure);
     [[nodiscard]] RevertAttempt attemptRevert(const QString &id);
     [[nodiscard]] RevertOutcome announce(const RevertAttempt &attempt);
+    [[nodiscard]] std::optional<QString> latestStanding();
     [[nodiscard]] RenameLogEntries::iterator find(const QString &id);
 
     void noteReported(const Entry &entry);
