@@ -2,12 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Admits the files of a folder to a batch, as a drop on the window does, and nothing else.
 // Prints how many there are, what they take in memory, and the longest time for which the event loop stood still.
-#include "fakes/FakeClock.h"
-#include "fakes/FakeContentReader.h"
-#include "fakes/FakeNameSuggester.h"
-#include "fakes/FakePreferenceStore.h"
-#include "fakes/FakeSystemLocale.h"
-#include "workflow/RenamerViewModel.h"
+#include "workflow/TestBatch.h"
 #include <algorithm>
 #include <fstream>
 #include <iostream>
@@ -28,15 +23,8 @@ static qint64 residentKiB()
 int main(int argumentCount, char **arguments)
 {
     QCoreApplication application(argumentCount, arguments);
-    FakePreferenceStore store;
-    Preferences preferences(store);
-    TemplateStore templates(preferences);
-    FakeClock clock;
-    RenameLog log(preferences, clock);
-    FakeContentReader reader;
-    FakeNameSuggester suggester;
-    FakeSystemLocale locale;
-    RenamerViewModel batch({ reader, suggester, templates, log, preferences, locale });
+    const TestBatch test;
+    RenamerViewModel &batch = *test.batch;
 
     QElapsedTimer sinceTick;
     qint64 longestStallNs = 0;

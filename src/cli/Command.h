@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <optional>
 #include <QString>
+#include <QStringList>
 #include <string>
 #include <variant>
 #include <vector>
@@ -36,6 +37,34 @@ struct SuggestCommand {
     NamingOptions naming;
     FileArguments arguments;
     bool json = false;
+};
+struct RenameCommand {
+    NamingOptions naming;
+    FileArguments arguments;
+    bool json = false;
+    bool yes = false; ///< nothing is asked; a question for access to a folder is declined
+    bool dryRun = false;
+};
+struct HistoryCommand {
+    QString search; ///< part of an old or new path; "" for all
+    bool json = false;
+};
+struct HistoryClearCommand {
+    bool yes = false;
+};
+struct UndoCommand {
+    QStringList ids; ///< empty: the latest ones
+    qsizetype last = 1;
+    bool json = false;
+};
+struct FoldersListCommand {
+    bool json = false;
+};
+struct FoldersAddCommand {
+    std::vector<std::filesystem::path> folders;
+};
+struct FoldersRemoveCommand {
+    std::vector<std::filesystem::path> folders;
 };
 struct ExtractCommand {
     std::vector<std::filesystem::path> files;
@@ -80,8 +109,9 @@ struct ShowTextCommand {
 };
 
 /// One call of `varlo`, understood.
-using Command = std::variant<OpenCommand, SuggestCommand, ExtractCommand, TemplatesListCommand, TemplatesAddCommand,
-    TemplatesEditCommand, TemplatesRemoveCommand, ConfigListCommand, ConfigGetCommand, ConfigSetCommand, KeyCommand,
-    FormatsCommand, DoctorCommand, ShowTextCommand>;
+using Command = std::variant<OpenCommand, SuggestCommand, RenameCommand, ExtractCommand, HistoryCommand,
+    HistoryClearCommand, UndoCommand, FoldersListCommand, FoldersAddCommand, FoldersRemoveCommand, TemplatesListCommand,
+    TemplatesAddCommand, TemplatesEditCommand, TemplatesRemoveCommand, ConfigListCommand, ConfigGetCommand,
+    ConfigSetCommand, KeyCommand, FormatsCommand, DoctorCommand, ShowTextCommand>;
 
 } // namespace Varlo

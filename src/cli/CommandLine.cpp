@@ -20,7 +20,12 @@ struct CommandLine::Values {
     std::string model;
     std::string endpoint;
     bool json = false;
+    bool yes = false;
+    bool dryRun = false;
+    std::string search;
+    int last = 1;
     std::string id;
+    std::vector<std::string> ids;
     std::string name;
     std::vector<std::string> fields;
     std::string key;
@@ -82,7 +87,10 @@ CommandLine::CommandLine()
     // At most one subcommand: otherwise a file called "key" behind "suggest" would be taken for another one.
     m_app->require_subcommand(0, 1);
     m_app->footer("Without a subcommand the window opens. `varlo SUBCOMMAND --help` tells more.");
-    describeFileCommands();
+    describeNaming();
+    describeHistory();
+    describeFolders();
+    describeOpenAndExtract();
     describeTemplates();
     describeSettings();
 }
@@ -95,6 +103,11 @@ CLI::App *CommandLine::addCommand(CLI::App &parent, const std::string &name, con
     command->set_help_flag("-h,--help", "Print this help");
     command->footer(""); // CLI11 hands the parent's down
     return command;
+}
+
+void CommandLine::addJsonFlag(CLI::App &app)
+{
+    app.add_flag("--json", m_values->json, "Print one JSON object a line, each as it completes");
 }
 
 void CommandLine::addNamingOptions(CLI::App &app)
@@ -111,21 +124,41 @@ void CommandLine::addNamingOptions(CLI::App &app)
         "--offline", values.offline, "Use the built-in rules in place of the hosted model: no key, no network");
     app.add_option("--model", values.model, "The model asked for at the endpoint")->type_name("ID");
     app.add_option("--endpoint", values.endpoint, "Base address of the Messages interface")->type_name("URL");
+    addJsonFlag(app);
+    app.add_option("--files0-from", values.files0From, "Take more paths, each ended by NUL, from a file or from -")
+        ->type_name("FILE");
+    addArguments(app, "FILE", values.files, "Files, and folders to look through");
 }
 
-void CommandLine::describeFileCommands()
+NamingOptions CommandLine::namingOptions(const CLI::App &app) const
+{
+    const Values &values = *m_values;
+    NamingOptions options;
+    options.language = filenameLanguageOption(QString::fromStdString(values.language)).value_or(FilenameLanguage::Auto);
+    options.templateId = givenText(app, "--template", values.templateId);
+    if (app.count("--tags") > 0)
+        options.tags = values.tags;
+    options.offline = values.offline;
+    options.model = givenText(app, "--model", values.model);
+    options.endpoint = givenText(app, "--endpoint", values.endpoint);
+    return options;
+}
+
+FileArguments CommandLine::fileArguments(const CLI::App &app) const
+{
+    FileArguments arguments { toPaths(m_values->files), {} };
+    if (app.count("--files0-from") > 0)
+        arguments.files0From = m_values->files0From;
+    else if (arguments.files.empty())
+        throw CLI::RequiredError("FILE");
+    return arguments;
+}
+
+void CommandLine::describeNaming()
 {
     Values &values = *m_values;
-    CLI::App *open = addCommand(*m_app, "open", "Open the window with these files in the list");
-    addArguments(*open, "FILE", values.files, "Files and folders");
-    open->callback([&values] { values.command = [&values] { return OpenCommand { toPaths(values.files) }; }; });
-
     CLI::App *suggest = addCommand(*m_app, "suggest", "Suggest names; changes nothing on disk");
     addNamingOptions(*suggest);
-    suggest->add_flag("--json", values.json, "Print one JSON object a line, each as it completes");
-    suggest->add_option("--files0-from", values.files0From, "Take more paths, each ended by NUL, from a file or from -")
-        ->type_name("FILE");
-    addArguments(*suggest, "FILE", values.files, "Files, and folders to look through");
     suggest->footer(
         "With --json each object has path, status, name (without the extension; empty where there is none),\n"
         "extension and tags, and message where the status is failed.\n"
@@ -136,29 +169,96 @@ void CommandLine::describeFileCommands()
         "  # The photos of this year, in Dutch, without the network\n"
         "  find ~/Photos -newermt 2026-01-01 -print0 |\n"
         "      varlo suggest --offline --language nl --files0-from -");
-    suggest->callback([&values, suggest] {
-        values.command = [&values, suggest]() -> Command {
-            SuggestCommand command;
-            command.naming.language
-                = filenameLanguageOption(QString::fromStdString(values.language)).value_or(FilenameLanguage::Auto);
-            command.naming.templateId = givenText(*suggest, "--template", values.templateId);
-            if (suggest->count("--tags") > 0)
-                command.naming.tags = values.tags;
-            command.naming.offline = values.offline;
-            command.naming.model = givenText(*suggest, "--model", values.model);
-            command.naming.endpoint = givenText(*suggest, "--endpoint", values.endpoint);
-            command.arguments.files = toPaths(values.files);
-            if (suggest->count("--files0-from") > 0)
-                command.arguments.files0From = values.files0From;
-            command.json = values.json;
-            return command;
-        };
-        if (values.files.empty() && suggest->count("--files0-from") == 0)
-            throw CLI::RequiredError("FILE");
+    suggest->callback([this, &values, suggest] {
+        const SuggestCommand command { namingOptions(*suggest), fileArguments(*suggest), values.json };
+        values.command = [command] { return command; };
     });
 
+    CLI::App *rename = addCommand(*m_app, "rename", "Suggest names, show the plan, ask, and rename");
+    addNamingOptions(*rename);
+    rename->add_flag("--yes", values.yes, "Do not ask; a question for access to a folder is declined");
+    rename->add_flag("-n,--dry-run", values.dryRun, "Show the plan and change nothing");
+    rename->footer("With --json each object is as for suggest; a renamed file has newPath as well.\n"
+                   "\n"
+                   "Examples:\n"
+                   "  # What would happen\n"
+                   "  varlo rename --dry-run ~/Scans\n"
+                   "  # Rename, tag, and take it all back\n"
+                   "  varlo rename --tags ~/Scans\n"
+                   "  varlo undo --last 12");
+    rename->callback([this, &values, rename] {
+        const RenameCommand command { namingOptions(*rename), fileArguments(*rename), values.json, values.yes,
+            values.dryRun };
+        values.command = [command] { return command; };
+    });
+}
+
+void CommandLine::describeHistory()
+{
+    Values &values = *m_values;
+    CLI::App *history = addCommand(*m_app, "history", "Past renames, newest first");
+    history->require_subcommand(0, 1);
+    history->add_option("--search", values.search, "Only renames with this in the old or the new path")
+        ->type_name("TEXT");
+    addJsonFlag(*history);
+    CLI::App *clear = addCommand(*history, "clear", "Forget every rename; no file changes");
+    clear->add_flag("--yes", values.yes, "Do not ask");
+    history->callback([&values, history, clear] {
+        if (history->got_subcommand(clear))
+            values.command = [&values] { return HistoryClearCommand { values.yes }; };
+        else
+            values.command = [&values] {
+                return HistoryCommand { QString::fromStdString(values.search), values.json };
+            };
+    });
+
+    CLI::App *undo = addCommand(*m_app, "undo", "Take renames back: the latest that stands, those named, or several");
+    CLI::Option *last = undo->add_option("--last", values.last, "So many, the newest first")
+                            ->type_name("N")
+                            ->check(CLI::PositiveNumber);
+    addJsonFlag(*undo);
+    addArguments(*undo, "ID", values.ids, "Which ones, by their ids in `varlo history --json`")->excludes(last);
+    undo->callback([&values] {
+        values.command = [&values] {
+            UndoCommand command { {}, values.last, values.json };
+            for (const std::string &id : values.ids)
+                command.ids.append(QString::fromStdString(id));
+            return command;
+        };
+    });
+}
+
+void CommandLine::describeFolders()
+{
+    Values &values = *m_values;
+    CLI::App *folders = addCommand(*m_app, "folders", "Folders that Varlo may rename in");
+    folders->require_subcommand(0, 1);
+    folders->add_flag("--json", values.json, "Print one JSON object a line");
+    CLI::App *list = addCommand(*folders, "list", "Print every folder");
+    list->add_flag("--json", values.json, "Print one JSON object a line");
+    CLI::App *add = addCommand(*folders, "add", "Allow renaming in these folders and below");
+    addArguments(*add, "FOLDER", values.files, "Which folders")->required();
+    CLI::App *remove = addCommand(*folders, "remove", "Withdraw that");
+    addArguments(*remove, "FOLDER", values.files, "Which folders")->required();
+    folders->callback([&values, folders, add, remove] {
+        if (folders->got_subcommand(add))
+            values.command = [&values] { return FoldersAddCommand { toPaths(values.files) }; };
+        else if (folders->got_subcommand(remove))
+            values.command = [&values] { return FoldersRemoveCommand { toPaths(values.files) }; };
+        else
+            values.command = [&values] { return FoldersListCommand { values.json }; };
+    });
+}
+
+void CommandLine::describeOpenAndExtract()
+{
+    Values &values = *m_values;
+    CLI::App *open = addCommand(*m_app, "open", "Open the window with these files in the list");
+    addArguments(*open, "FILE", values.files, "Files and folders");
+    open->callback([&values] { values.command = [&values] { return OpenCommand { toPaths(values.files) }; }; });
+
     CLI::App *extract = addCommand(*m_app, "extract", "Print what the model would be given for each file");
-    extract->add_flag("--json", values.json, "Print one JSON object a line, each as it completes");
+    addJsonFlag(*extract);
     addArguments(*extract, "FILE", values.files, "Files")->required();
     extract->footer("Examples:\n"
                     "  # Whether there is text in a scan at all\n"

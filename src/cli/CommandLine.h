@@ -33,11 +33,17 @@ public:
 private:
     struct Values;
 
-    void describeFileCommands();
+    void describeOpenAndExtract();
+    void describeNaming();
+    void describeHistory();
+    void describeFolders();
     void describeTemplates();
     void describeSettings();
     CLI::App *addCommand(CLI::App &parent, const std::string &name, const std::string &summary);
     void addNamingOptions(CLI::App &app);
+    [[nodiscard]] NamingOptions namingOptions(const CLI::App &app) const;
+    [[nodiscard]] FileArguments fileArguments(const CLI::App &app) const;
+    void addJsonFlag(CLI::App &app);
 
     std::unique_ptr<CLI::App> m_app;
     std::unique_ptr<Values> m_values; // what the options are parsed into

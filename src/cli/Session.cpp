@@ -17,6 +17,7 @@ using namespace Qt::StringLiterals;
 Session::Session(Environment environment)
     : m_environment(std::move(environment))
     , m_folders(StateFolders::from(m_environment))
+    , m_folderPanel(m_terminal)
 {
 }
 
@@ -40,10 +41,12 @@ Preferences &Session::preferences()
 
 void Session::tellNotices()
 {
-    if (!m_preferenceStore)
-        return;
-    const QStringList notices = m_preferenceStore->takeNotices();
-    for (const QString &notice : notices)
+    QStringList notices;
+    if (m_preferenceStore)
+        notices += m_preferenceStore->takeNotices();
+    if (m_renameLog)
+        notices += m_renameLog->takeNotices();
+    for (const QString &notice : std::as_const(notices))
         m_terminal.complain(terminalText(notice));
 }
 
@@ -54,10 +57,21 @@ TemplateStore &Session::templateStore()
     return *m_templateStore;
 }
 
+FolderAccess &Session::folderAccess()
+{
+    if (!m_folderAccess)
+        m_folderAccess = std::make_unique<FolderAccess>(preferences(), m_folderPanel);
+    return *m_folderAccess;
+}
+
 RenameLog &Session::renameLog()
 {
-    if (!m_renameLog)
-        m_renameLog = std::make_unique<RenameLog>(preferences(), m_clock);
+    if (!m_renameLog) {
+        m_journal = std::make_unique<RenameJournal>(m_folders.state);
+        m_renamer = std::make_unique<FileRenamer>(*m_journal, m_clock);
+        m_renameLog = std::make_unique<RenameLog>(preferences(), *m_renamer, folderAccess());
+        tellNotices();
+    }
     return *m_renameLog;
 }
 
@@ -117,8 +131,9 @@ NameSuggestionService *Session::suggester(const NamingOptions &options)
 
 std::unique_ptr<RenamerViewModel> Session::makeBatch(NameSuggestionService &suggester)
 {
-    return std::make_unique<RenamerViewModel>(
-        RenamerViewModel::Collaborators { reader(), suggester, templateStore(), renameLog(), preferences(), m_locale });
+    RenameLog &log = renameLog(); // makes the renamer too
+    return std::make_unique<RenamerViewModel>(RenamerViewModel::Collaborators {
+        reader(), suggester, templateStore(), log, *m_renamer, folderAccess(), nullptr, preferences(), m_locale });
 }
 
 } // namespace Varlo

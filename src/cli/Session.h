@@ -4,6 +4,7 @@
 
 #include "cli/Command.h"
 #include "cli/Terminal.h"
+#include "cli/TerminalFolderPanel.h"
 #include "extraction/ThreadContentReader.h"
 #include "history/RenameLog.h"
 #include "platform/linux/JsonPreferenceStore.h"
@@ -11,6 +12,9 @@
 #include "platform/linux/QtSystemLocale.h"
 #include "platform/linux/StateFolders.h"
 #include "platform/linux/SystemClock.h"
+#include "renaming/FileRenamer.h"
+#include "renaming/FolderAccess.h"
+#include "renaming/RenameJournal.h"
 #include "settings/APIKeyStore.h"
 #include "settings/Endpoint.h"
 #include "settings/Preferences.h"
@@ -37,6 +41,8 @@ public:
     [[nodiscard]] Preferences &preferences();
     [[nodiscard]] TemplateStore &templateStore();
     [[nodiscard]] RenameLog &renameLog();
+    [[nodiscard]] FolderAccess &folderAccess();
+    [[nodiscard]] TerminalFolderPanel &folderPanel() { return m_folderPanel; }
     [[nodiscard]] ContentReader &reader();
     [[nodiscard]] const SystemLocale &locale() const { return m_locale; }
     [[nodiscard]] SecretStore &secretStore();
@@ -60,6 +66,7 @@ private:
     Environment m_environment;
     StateFolders m_folders;
     Terminal m_terminal;
+    TerminalFolderPanel m_folderPanel;
     QtSystemLocale m_locale;
     LinuxFileFlags m_fileFlags;
     SystemClock m_clock;
@@ -67,6 +74,9 @@ private:
     std::unique_ptr<JsonPreferenceStore> m_preferenceStore;
     std::unique_ptr<Preferences> m_preferences;
     std::unique_ptr<TemplateStore> m_templateStore;
+    std::unique_ptr<FolderAccess> m_folderAccess;
+    std::unique_ptr<RenameJournal> m_journal;
+    std::unique_ptr<FileRenamer> m_renamer;
     std::unique_ptr<RenameLog> m_renameLog;
     std::unique_ptr<SecretStore> m_keyring;
     std::unique_ptr<SecretStore> m_secretFile;

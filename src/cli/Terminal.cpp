@@ -5,7 +5,9 @@
 #include "cli/terminalText.h"
 #include "platform/Characters.h"
 #include <algorithm>
+#include <iostream>
 #include <numeric>
+#include <QCoreApplication>
 #include <QJsonDocument>
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -110,10 +112,27 @@ void Terminal::printTable(const QStringList &headings, const std::vector<TableRo
     write(out.toUtf8());
 }
 
-void Terminal::complain(const QString &message)
+void Terminal::complain(const QString &message) { inform(u"varlo: "_s + message); }
+
+void Terminal::inform(const QString &message)
 {
     showProgress({});
-    writeAll(STDERR_FILENO, "varlo: " + message.toUtf8() + '\n');
+    writeAll(STDERR_FILENO, message.toUtf8() + '\n');
+}
+
+bool Terminal::canAsk() const { return m_progressColumns > 0 && ::isatty(STDIN_FILENO); }
+
+bool Terminal::confirm(const QString &question)
+{
+    showProgress({});
+    //: What has to be typed for yes; the capital letter marks what a mere Return means
+    const QString choices = QCoreApplication::translate("Terminal", "[y/N]");
+    writeAll(STDERR_FILENO, (question + u' ' + choices + u' ').toUtf8());
+    std::string answer;
+    std::getline(std::cin, answer);
+    //: The letter that means yes
+    const QString yes = QCoreApplication::translate("Terminal", "y");
+    return QString::fromStdString(answer).trimmed().startsWith(yes, Qt::CaseInsensitive);
 }
 
 void Terminal::showProgress(const QString &line)

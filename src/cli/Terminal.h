@@ -32,6 +32,13 @@ public:
     void printTable(const QStringList &headings, const std::vector<TableRow> &rows);
     /// "varlo: message" on standard error.
     void complain(const QString &message);
+    /// The message on standard error.
+    void inform(const QString &message);
+    /// Somebody can be asked: standard input and standard error are a terminal.
+    [[nodiscard]] bool canAsk() const;
+    /// Asks on standard error and reads a line. Only the language's yes is one; everything else, the end of input too,
+    /// is no.
+    [[nodiscard]] bool confirm(const QString &question);
     /// One line that the next call replaces; nothing where standard error is not a terminal. "" takes it away.
     void showProgress(const QString &line);
     /// False once standard output could not be written: a full disk, or a reader that has gone.

@@ -11,6 +11,13 @@ namespace Varlo {
 
 [[nodiscard]] ExitCode run(const OpenCommand &command, Session &session);
 [[nodiscard]] ExitCode run(const SuggestCommand &command, Session &session);
+[[nodiscard]] ExitCode run(const RenameCommand &command, Session &session);
+[[nodiscard]] ExitCode run(const HistoryCommand &command, Session &session);
+[[nodiscard]] ExitCode run(const HistoryClearCommand &command, Session &session);
+[[nodiscard]] ExitCode run(const UndoCommand &command, Session &session);
+[[nodiscard]] ExitCode run(const FoldersListCommand &command, Session &session);
+[[nodiscard]] ExitCode run(const FoldersAddCommand &command, Session &session);
+[[nodiscard]] ExitCode run(const FoldersRemoveCommand &command, Session &session);
 [[nodiscard]] ExitCode run(const ExtractCommand &command, Session &session);
 [[nodiscard]] ExitCode run(const TemplatesListCommand &command, Session &session);
 [[nodiscard]] ExitCode run(const TemplatesAddCommand &command, Session &session);

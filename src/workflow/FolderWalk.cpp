@@ -11,6 +11,7 @@
 #include <fcntl.h>
 #include <string_view>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 
 namespace Varlo {
 
@@ -29,8 +30,7 @@ void readStatus(int folder, const char *name, FolderWalk::File &file)
     struct statx status { };
     if (::statx(folder, name, AT_SYMLINK_NOFOLLOW, STATX_SIZE | STATX_INO | STATX_TYPE, &status) != 0)
         return;
-    const std::uint64_t device = (std::uint64_t { status.stx_dev_major } << 32) | status.stx_dev_minor;
-    file.identity = FileIdentity { device, status.stx_ino };
+    file.identity = FileIdentity { makedev(status.stx_dev_major, status.stx_dev_minor), status.stx_ino };
     if (S_ISLNK(status.stx_mode) && ::statx(folder, name, 0, STATX_SIZE, &status) != 0)
         return;
     file.byteSize = static_cast<qint64>(status.stx_size);

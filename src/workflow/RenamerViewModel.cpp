@@ -4,9 +4,12 @@
 
 #include "platform/pathExtension.h"
 #include "platform/shownPath.h"
+#include "renaming/applyFinderTags.h"
+#include "renaming/FinderPermission.h"
+#include "renaming/renameWithFinder.h"
 #include <algorithm>
 #include <QCoroFuture>
-#include <QCoroSignal>
+#include <QCoroTimer>
 #include <QElapsedTimer>
 #include <QPointer>
 #include <QtConcurrentRun>
@@ -19,6 +22,7 @@ RenamerViewModel::RenamerViewModel(const Collaborators &collaborators, QObject *
     : QAbstractListModel(parent)
     , m_with(collaborators)
 {
+    connect(&m_with.renameLog, &RenameLog::reverted, this, &RenamerViewModel::takeBack);
 }
 
 int RenamerViewModel::rowCount(const QModelIndex &parent) const
@@ -99,8 +103,7 @@ QCoro::Task<void> RenamerViewModel::addFiles(std::vector<std::filesystem::path> 
 {
     const QPointer<RenamerViewModel> self = this;
     const quint64 clearCount = m_clearCount;
-    const quint64 turn = m_nextAdmissionTurn++;
-    co_await waitForAdmissionTurn(turn);
+    co_await m_admissionTurns.begin();
     if (!self)
         co_return;
 
@@ -123,15 +126,7 @@ QCoro::Task<void> RenamerViewModel::addFiles(std::vector<std::filesystem::path> 
         else if (reportEmpty)
             setDropFeedback(DropFeedback::NothingRenameable);
     }
-    ++m_currentAdmissionTurn;
-    emit admissionTurnChanged({});
-}
-
-QCoro::Task<void> RenamerViewModel::waitForAdmissionTurn(quint64 turn)
-{
-    const QPointer<RenamerViewModel> self = this;
-    while (self && m_currentAdmissionTurn != turn)
-        co_await qCoro(this, &RenamerViewModel::admissionTurnChanged);
+    m_admissionTurns.end();
 }
 
 qsizetype RenamerViewModel::admit(std::vector<FolderWalk::File> found)
@@ -139,7 +134,8 @@ qsizetype RenamerViewModel::admit(std::vector<FolderWalk::File> found)
     std::vector<FileItem> items;
     items.reserve(found.size());
     for (FolderWalk::File &file : found) {
-        if (!m_paths.insert(file.path.native()).second)
+        const int row = rowCount() + static_cast<int>(items.size());
+        if (!m_rowOfPath.emplace(file.path.native(), row).second)
             continue;
         FileItem item;
         item.id = QUuid::createUuid();
@@ -172,7 +168,7 @@ void RenamerViewModel::clear()
     beginResetModel();
     m_files.clear();
     m_rowOfId.clear();
-    m_paths.clear();
+    m_rowOfPath.clear();
     m_pendingCount = 0;
     m_processingCount = 0;
     m_totalBytes = 0;
@@ -293,6 +289,215 @@ void RenamerViewModel::resetSuggestions()
         setStatus(row, FileItem::Pending {});
         setSuggestion(row, {}, {});
     }
+}
+
+/// Whether a rename action may touch the file: not while it waits or is worked on, not twice, and not without a name.
+static bool isRenamable(const FileItem &item)
+{
+    return !item.suggestedName.isEmpty()
+        && std::visit(Overloaded {
+                          [](FileItem::Pending) { return false; },
+                          [](FileItem::Processing) { return false; },
+                          [](FileItem::Suggested) { return true; },
+                          [](FileItem::Renamed) { return false; },
+                          [](FileItem::AlreadyRenamed) { return true; },
+                          [](FileItem::NoTextFound) { return true; },
+                          [](FileItem::NotSupportedYet) { return false; },
+                          [](const FileItem::Failed &) { return true; },
+                      },
+            item.status);
+}
+
+void RenamerViewModel::setSuggestedName(int row, const QString &name)
+{
+    FileItem &item = m_files[static_cast<std::size_t>(row)];
+    if (item.suggestedName == name || std::holds_alternative<FileItem::Renamed>(item.status))
+        return;
+    item.suggestedName = name;
+    announce(row, { SuggestedNameRole });
+}
+
+std::vector<QUuid> RenamerViewModel::renamableFiles() const
+{
+    std::vector<QUuid> ids;
+    for (const FileItem &item : m_files) {
+        if (isRenamable(item))
+            ids.push_back(item.id);
+    }
+    return ids;
+}
+
+QCoro::Task<void> RenamerViewModel::rename(QUuid id)
+{
+    std::vector<QUuid> ids { id };
+    co_await renameInTurn(std::move(ids));
+}
+
+QCoro::Task<void> RenamerViewModel::renameAll()
+{
+    std::vector<QUuid> ids = renamableFiles();
+    co_await renameInTurn(std::move(ids));
+}
+
+QCoro::Task<void> RenamerViewModel::renameInTurn(std::vector<QUuid> ids)
+{
+    const QPointer<RenamerViewModel> self = this;
+    co_await m_renameTurns.begin();
+    if (!self)
+        co_return;
+
+    emit isRenamingChanged();
+    m_isRenameStopped = false;
+    m_with.folderAccess.forgetDeclined();
+    {
+        const RenameLog::Action action = m_with.renameLog.beginAction();
+        for (std::size_t next = 0; next < ids.size() && !m_isRenameStopped;) {
+            const std::optional<QUuid> refused = renameSome(ids, next);
+            if (refused)
+                co_await askForFolderAndRetry(*refused);
+            else
+                co_await QCoro::sleepFor(0ms); // back to the event loop
+            if (!self)
+                co_return;
+        }
+    }
+    m_renameTurns.end();
+    emit isRenamingChanged();
+}
+
+std::optional<QUuid> RenamerViewModel::renameSome(const std::vector<QUuid> &ids, std::size_t &next)
+{
+    const bool isFinderAllowed = finderPermission(m_with.automation, false) == FinderPermission::Granted;
+    const std::size_t groupSize = isFinderAllowed ? 1 : FileRenamer::groupSize;
+    std::vector<QUuid> group;
+    std::vector<std::size_t> positions;
+    while (next < ids.size() && group.size() < groupSize) {
+        const std::optional<int> row = rowOf(ids[next]);
+        if (row && isRenamable(m_files[static_cast<std::size_t>(*row)])) {
+            group.push_back(ids[next]);
+            positions.push_back(next);
+        }
+        ++next;
+    }
+    if (isFinderAllowed && !group.empty() && renameThroughFinder(group.front()))
+        return {};
+    const std::optional<std::size_t> refused = renameDirectly(group);
+    if (!refused)
+        return {};
+    next = positions[*refused] + 1; // those behind it were not tried and come again
+    return group[*refused];
+}
+
+bool RenamerViewModel::renameThroughFinder(const QUuid &id)
+{
+    const FileItem item = m_files[static_cast<std::size_t>(*rowOf(id))];
+    const auto newPath = renameWithFinder(*m_with.automation, item.path, item.suggestedName);
+    if (!newPath && std::holds_alternative<AutomationDenied>(newPath.error()))
+        return false;
+    if (newPath)
+        finishRename(id, item.path, *newPath);
+    else
+        failRename(id, description(newPath.error()));
+    return true;
+}
+
+std::optional<std::size_t> RenamerViewModel::renameDirectly(const std::vector<QUuid> &ids)
+{
+    std::vector<RenameRequest> requests;
+    for (const QUuid &id : ids) {
+        requests.push_back(renameRequest(m_files[static_cast<std::size_t>(*rowOf(id))]));
+        m_with.folderAccess.beginAccess(requests.back().path.parent_path());
+    }
+    std::optional<std::size_t> refused;
+    m_with.renamer.renameAll(requests, [&](std::size_t index, const FileRenamer::Outcome &outcome) {
+        if (outcome)
+            finishRename(ids[index], requests[index].path, *outcome);
+        else if (isPermissionDenied(outcome.error()))
+            refused = index;
+        else
+            failRename(ids[index], description(outcome.error()));
+        return refused || m_isRenameStopped ? FileRenamer::Next::Stop : FileRenamer::Next::GoOn;
+    });
+    return refused;
+}
+
+QCoro::Task<void> RenamerViewModel::askForFolderAndRetry(QUuid id)
+{
+    const QPointer<RenamerViewModel> self = this;
+    std::optional<int> row = rowOf(id);
+    if (!row)
+        co_return;
+    const std::filesystem::path folder = m_files[static_cast<std::size_t>(*row)].path.parent_path();
+    const bool isGranted = co_await m_with.folderAccess.requestAccess(folder);
+    if (!self)
+        co_return;
+    row = rowOf(id);
+    if (!row || !isRenamable(m_files[static_cast<std::size_t>(*row)]))
+        co_return;
+    if (!isGranted) {
+        //: Shown in a file's row when the user did not allow access to its folder
+        failRename(id, tr("No permission to rename in this folder."));
+        co_return;
+    }
+    const RenameRequest request = renameRequest(m_files[static_cast<std::size_t>(*row)]);
+    const FileRenamer::Outcome outcome = m_with.renamer.renameDirectly(request);
+    if (outcome)
+        finishRename(id, request.path, *outcome);
+    else
+        failRename(id, description(outcome.error()));
+}
+
+RenameRequest RenamerViewModel::renameRequest(const FileItem &item) const
+{
+    return { item.path, item.suggestedName, item.identity };
+}
+
+void RenamerViewModel::finishRename(
+    const QUuid &id, const std::filesystem::path &oldPath, const std::filesystem::path &newPath)
+{
+    const std::optional<int> row = rowOf(id);
+    if (row)
+        applyFinderTags(m_files[static_cast<std::size_t>(*row)].suggestedTags, newPath);
+    m_with.renameLog.record(oldPath, newPath);
+    if (!row)
+        return; // the list was cleared while the rename was in hand
+    m_files[static_cast<std::size_t>(*row)].previousName = shownPath(oldPath.filename());
+    announce(*row, { PreviousNameRole });
+    setPath(*row, newPath);
+    setStatus(*row, FileItem::Renamed {});
+    emit renameFinished(*row);
+}
+
+void RenamerViewModel::failRename(const QUuid &id, const QString &message)
+{
+    const std::optional<int> row = rowOf(id);
+    if (!row)
+        return;
+    setStatus(*row, FileItem::Failed { message });
+    emit renameFinished(*row);
+}
+
+void RenamerViewModel::takeBack(const std::filesystem::path &renamedPath, const std::filesystem::path &restoredPath)
+{
+    const auto found = m_rowOfPath.find(renamedPath.native());
+    if (found == m_rowOfPath.end())
+        return;
+    const int row = found->second;
+    setPath(row, restoredPath);
+    setStatus(row, FileItem::Pending {});
+    FileItem &item = m_files[static_cast<std::size_t>(row)];
+    item.suggestedName.clear();
+    item.previousName.reset();
+    announce(row, { SuggestedNameRole, PreviousNameRole });
+}
+
+void RenamerViewModel::setPath(int row, const std::filesystem::path &path)
+{
+    FileItem &item = m_files[static_cast<std::size_t>(row)];
+    m_rowOfPath.erase(item.path.native());
+    item.path = path;
+    m_rowOfPath.insert_or_assign(path.native(), row);
+    announce(row, { PathRole, FileNameRole, IconNameRole, Qt::DisplayRole });
 }
 
 std::optional<int> RenamerViewModel::rowOf(const QUuid &id) const

@@ -4,18 +4,22 @@
 
 #include "extraction/ContentReader.h"
 #include "history/RenameLog.h"
+#include "platform/AutomationHost.h"
 #include "platform/SystemLocale.h"
+#include "renaming/FileRenamer.h"
+#include "renaming/FolderAccess.h"
 #include "settings/Preferences.h"
 #include "suggestion/NameSuggestionService.h"
 #include "templates/TemplateStore.h"
 #include "workflow/FileItem.h"
 #include "workflow/FolderWalk.h"
+#include "workflow/TurnQueue.h"
 #include <memory>
 #include <optional>
 #include <QAbstractListModel>
 #include <QCoroTask>
 #include <QHash>
-#include <unordered_set>
+#include <unordered_map>
 #include <vector>
 
 namespace Varlo {
@@ -48,6 +52,9 @@ public:
         NameSuggestionService &suggester;
         TemplateStore &templateStore;
         RenameLog &renameLog;
+        FileRenamer &renamer;
+        FolderAccess &folderAccess;
+        AutomationHost *automation; ///< null where the system has none
         Preferences &preferences;
         const SystemLocale &locale;
     };
@@ -89,6 +96,21 @@ public:
     /// nothing while a run is under way: that run takes what has become pending meanwhile.
     QCoro::Task<void> suggestAll();
 
+    /// What the user typed in the row; a rename uses it as it is. A file that is being or was renamed keeps its name.
+    void setSuggestedName(int row, const QString &name);
+    /// The files that "Rename All" would rename now: suggested, already renamed, without text or failed, and with a
+    /// name.
+    [[nodiscard]] std::vector<QUuid> renamableFiles() const;
+    /// Renames one file, if it may be; its outcome is its status.
+    QCoro::Task<void> rename(QUuid id);
+    /// Renames the files that can be renamed at this moment, in the batch's order, and gives the event loop back in
+    /// between. One that meanwhile lost its name, or left the batch, is passed over; one failure does not stop the
+    /// others. Actions follow each other: a second call waits for the first and then finds what is left.
+    QCoro::Task<void> renameAll();
+    /// Ends the rename action under way after the rename in hand.
+    void stopRenaming() { m_isRenameStopped = true; }
+    [[nodiscard]] bool isRenaming() const { return !m_renameTurns.isIdle(); }
+
 signals:
     void isSuggestingChanged();
     void lastSuggestSecondsChanged();
@@ -98,6 +120,9 @@ signals:
     void countsChanged();
     /// The file has come through a suggestion, with or without a name.
     void suggestionFinished(int row);
+    /// A rename action has come to the file: it is renamed, or has failed.
+    void renameFinished(int row);
+    void isRenamingChanged();
 
 private:
     /// The files of one round of a run and what they are asked with.
@@ -115,13 +140,25 @@ private:
         QStringList tags;
     };
 
-    QCoro::Task<void> waitForAdmissionTurn(quint64 turn);
     qsizetype admit(std::vector<FolderWalk::File> found);
     QCoro::Task<void> runPass();
     QCoro::Task<void> runLane(std::shared_ptr<Pass> pass);
     QCoro::Task<SuggestionResult> suggestionFor(QUuid id, std::filesystem::path path, std::shared_ptr<const Pass> pass);
     void apply(const SuggestionResult &result);
     void resetSuggestions();
+    QCoro::Task<void> renameInTurn(std::vector<QUuid> ids);
+    /// Renames some of the ids from `next` on, which it moves; returns the file whose folder refused, if one did.
+    [[nodiscard]] std::optional<QUuid> renameSome(const std::vector<QUuid> &ids, std::size_t &next);
+    /// Returns which of them the folder refused; those behind it were not tried.
+    [[nodiscard]] std::optional<std::size_t> renameDirectly(const std::vector<QUuid> &ids);
+    /// False where Finder may not be asked and the direct way is left.
+    [[nodiscard]] bool renameThroughFinder(const QUuid &id);
+    QCoro::Task<void> askForFolderAndRetry(QUuid id);
+    [[nodiscard]] RenameRequest renameRequest(const FileItem &item) const;
+    void finishRename(const QUuid &id, const std::filesystem::path &oldPath, const std::filesystem::path &newPath);
+    void failRename(const QUuid &id, const QString &message);
+    void takeBack(const std::filesystem::path &renamedPath, const std::filesystem::path &restoredPath);
+    void setPath(int row, const std::filesystem::path &path);
     [[nodiscard]] std::optional<int> rowOf(const QUuid &id) const;
     void setStatus(int row, const FileItem::Status &status);
     void setSuggestion(int row, const QString &name, const QStringList &tags);
@@ -132,7 +169,7 @@ private:
     Collaborators m_with;
     std::vector<FileItem> m_files;
     QHash<QUuid, int> m_rowOfId;
-    std::unordered_set<std::string> m_paths; // of the items, to find a duplicate without a search
+    std::unordered_map<std::string, int> m_rowOfPath; // finds a duplicate without a search
     qsizetype m_pendingCount = 0;
     qsizetype m_processingCount = 0;
     qint64 m_totalBytes = 0;
@@ -141,12 +178,10 @@ private:
     std::optional<DropFeedback> m_dropFeedback;
     FilenameLanguageOption m_filenameLanguageOption = FilenameLanguage::Auto;
     std::optional<QString> m_selectedTemplateID;
-    quint64 m_nextAdmissionTurn = 0;
-    quint64 m_currentAdmissionTurn = 0;
+    TurnQueue m_admissionTurns;
+    TurnQueue m_renameTurns;
     quint64 m_clearCount = 0; // an admission that began before the latest clear() adds no more
-
-signals:
-    void admissionTurnChanged(QPrivateSignal);
+    bool m_isRenameStopped = false;
 };
 
 } // namespace Varlo

@@ -1,77 +1,12 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "fakes/FakeClock.h"
-#include "fakes/FakeContentReader.h"
-#include "fakes/FakeNameSuggester.h"
-#include "fakes/FakePreferenceStore.h"
-#include "fakes/FakeSystemLocale.h"
-#include "workflow/RenamerViewModel.h"
-#include <filesystem>
-#include <fstream>
+#include "workflow/TestBatch.h"
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Varlo;
 using namespace Qt::StringLiterals;
 using Path = std::filesystem::path;
-
-namespace {
-
-struct NoPanel final : FolderAccessPanel {
-    [[nodiscard]] QCoro::Task<std::optional<Path>> ask(Path) override { co_return std::nullopt; }
-};
-
-/// A batch with everything around it faked, and a folder of real files.
-struct Bench {
-    QTemporaryDir temporary;
-    Path folder = Path(temporary.path().toStdString());
-    FakePreferenceStore store;
-    Preferences preferences { store };
-    TemplateStore templates { preferences };
-    FakeClock clock;
-    NoPanel panel;
-    RenameJournal journal { folder / ".state" };
-    FileRenamer renamer { journal, clock };
-    FolderAccess access { preferences, panel };
-    RenameLog log { preferences, renamer, access };
-    FakeContentReader reader;
-    FakeNameSuggester suggester;
-    FakeSystemLocale locale;
-    std::unique_ptr<RenamerViewModel> batch = std::make_unique<RenamerViewModel>(
-        RenamerViewModel::Collaborators { reader, suggester, templates, log, preferences, locale });
-
-    Path make(const Path &relative, const std::string &content = "x") const
-    {
-        const Path path = folder / relative;
-        std::filesystem::create_directories(path.parent_path());
-        std::ofstream(path) << content;
-        return path;
-    }
-    void add(std::vector<Path> paths, bool reportEmpty = true) const
-    {
-        QCoro::waitFor(batch->addFiles(std::move(paths), reportEmpty));
-    }
-    void suggest() const { QCoro::waitFor(batch->suggestAll()); }
-    [[nodiscard]] QStringList names() const
-    {
-        QStringList names;
-        for (const FileItem &item : batch->files())
-            names.append(QString::fromStdString(item.path.lexically_relative(folder).native()));
-        return names;
-    }
-    [[nodiscard]] QStringList statuses() const
-    {
-        QStringList words;
-        for (const FileItem &item : batch->files()) {
-            const auto *failed = std::get_if<FileItem::Failed>(&item.status);
-            words.append(rawValue(item.status) + (failed ? u": "_s + failed->message : QString()));
-        }
-        return words;
-    }
-};
-
-} // namespace
 
 class RenamerViewModelTest : public QObject {
     Q_OBJECT
@@ -120,115 +55,115 @@ void RenamerViewModelTest::admits()
 {
     QFETCH(QStringList, onDisk);
     QFETCH(QStringList, given);
-    const Bench bench;
+    const TestBatch test;
     for (const QString &file : onDisk)
-        bench.make(file.toStdString());
+        test.make(file.toStdString());
     std::vector<Path> paths;
     for (const QString &path : given)
-        paths.push_back(bench.folder / path.toStdString());
-    bench.add(paths);
-    QTEST(bench.names(), "admitted");
-    QCOMPARE(bench.batch->dropFeedback().has_value(), bench.batch->files().empty());
+        paths.push_back(test.folder / path.toStdString());
+    test.add(paths);
+    QTEST(test.names(), "admitted");
+    QCOMPARE(test.batch->dropFeedback().has_value(), test.batch->files().empty());
 }
 
 void RenamerViewModelTest::passesOverDuplicatesAndSaysSo()
 {
-    const Bench bench;
-    const Path file = bench.make("a.txt", "four");
-    bench.add({ file, file });
-    QCOMPARE(bench.names(), QStringList { u"a.txt"_s });
-    QCOMPARE(bench.batch->files().front().byteSize, 4);
-    QVERIFY(!bench.batch->dropFeedback());
-    bench.add({ bench.folder });
-    QCOMPARE(bench.names(), QStringList { u"a.txt"_s });
-    QCOMPARE(bench.batch->dropFeedback(), RenamerViewModel::DropFeedback::NothingRenameable);
-    bench.add({ bench.make("b.txt") });
-    QVERIFY(!bench.batch->dropFeedback());
+    const TestBatch test;
+    const Path file = test.make("a.txt", "four");
+    test.add({ file, file });
+    QCOMPARE(test.names(), QStringList { u"a.txt"_s });
+    QCOMPARE(test.batch->files().front().byteSize, 4);
+    QVERIFY(!test.batch->dropFeedback());
+    test.add({ test.folder });
+    QCOMPARE(test.names(), QStringList { u"a.txt"_s });
+    QCOMPARE(test.batch->dropFeedback(), RenamerViewModel::DropFeedback::NothingRenameable);
+    test.add({ test.make("b.txt") });
+    QVERIFY(!test.batch->dropFeedback());
 }
 
 void RenamerViewModelTest::leavesFeedbackAloneForTheWatcher()
 {
-    const Bench bench;
-    bench.add({ bench.make("a.mp4") }, false);
-    QVERIFY(!bench.batch->dropFeedback());
-    bench.add({ bench.make("a.mp4") }, true);
-    bench.add({ bench.make("a.mp4") }, false);
-    QVERIFY(bench.batch->dropFeedback());
-    bench.add({ bench.make("a.txt") }, false);
-    QVERIFY(!bench.batch->dropFeedback());
+    const TestBatch test;
+    test.add({ test.make("a.mp4") }, false);
+    QVERIFY(!test.batch->dropFeedback());
+    test.add({ test.make("a.mp4") }, true);
+    test.add({ test.make("a.mp4") }, false);
+    QVERIFY(test.batch->dropFeedback());
+    test.add({ test.make("a.txt") }, false);
+    QVERIFY(!test.batch->dropFeedback());
 }
 
 void RenamerViewModelTest::recognisesFilesRenamedEarlier()
 {
-    Bench bench;
-    bench.log.record("/elsewhere/scan.txt", "/elsewhere/Invoice.txt");
-    bench.add({ bench.make("Invoice.txt"), bench.make("sub/scan.txt"), bench.make("invoice.txt") });
-    QCOMPARE(bench.statuses(), (QStringList { u"alreadyRenamed"_s, u"pending"_s, u"pending"_s }));
-    bench.suggest();
-    QCOMPARE(bench.statuses(), (QStringList { u"alreadyRenamed"_s, u"suggested"_s, u"suggested"_s }));
+    TestBatch test;
+    test.log.record("/elsewhere/scan.txt", "/elsewhere/Invoice.txt");
+    test.add({ test.make("Invoice.txt"), test.make("sub/scan.txt"), test.make("invoice.txt") });
+    QCOMPARE(test.statuses(), (QStringList { u"alreadyRenamed"_s, u"pending"_s, u"pending"_s }));
+    test.suggest();
+    QCOMPARE(test.statuses(), (QStringList { u"alreadyRenamed"_s, u"suggested"_s, u"suggested"_s }));
 }
 
 void RenamerViewModelTest::servesAdmissionsInTurnUntilCleared()
 {
-    const Bench bench;
+    const TestBatch test;
     for (int i = 0; i < 3000; ++i)
-        bench.make("big/" + std::to_string(i) + ".txt");
-    auto first = bench.batch->addFiles({ bench.folder / "big" }, true);
-    auto second = bench.batch->addFiles({ bench.make("late.txt") }, true);
-    QVERIFY(bench.batch->files().empty()); // nothing happens before the event loop goes on
+        test.make("big/" + std::to_string(i) + ".txt");
+    auto first = test.batch->addFiles({ test.folder / "big" }, true);
+    auto second = test.batch->addFiles({ test.make("late.txt") }, true);
+    QVERIFY(test.batch->files().empty()); // nothing happens before the event loop goes on
     QCoro::waitFor(second);
     QVERIFY(first.isReady());
-    QCOMPARE(bench.batch->files().size(), 3001U);
-    QCOMPARE(bench.names().last(), u"late.txt"_s);
+    QCOMPARE(test.batch->files().size(), 3001U);
+    QCOMPARE(test.names().last(), u"late.txt"_s);
 
-    bench.batch->clear();
-    auto third = bench.batch->addFiles({ bench.folder / "big" }, true);
-    bench.batch->clear();
+    test.batch->clear();
+    auto third = test.batch->addFiles({ test.folder / "big" }, true);
+    test.batch->clear();
     QCoro::waitFor(third);
-    QVERIFY(bench.batch->files().empty());
-    QVERIFY(!bench.batch->dropFeedback());
-    bench.add({ bench.folder / "late.txt" });
-    QCOMPARE(bench.batch->files().size(), 1U);
+    QVERIFY(test.batch->files().empty());
+    QVERIFY(!test.batch->dropFeedback());
+    test.add({ test.folder / "late.txt" });
+    QCOMPARE(test.batch->files().size(), 1U);
 }
 
 void RenamerViewModelTest::keepsFiveInFlightAndTakesLateFiles()
 {
-    Bench bench;
+    TestBatch test;
     for (int i = 0; i < 12; ++i)
-        bench.make("f/" + std::to_string(i) + ".txt");
-    bench.add({ bench.folder / "f" });
-    QSignalSpy durations(bench.batch.get(), &RenamerViewModel::lastSuggestSecondsChanged);
-    bench.suggester.isHeld = true;
-    auto run = bench.batch->suggestAll();
-    QTRY_COMPARE(bench.suggester.waiting, 5);
-    QCOMPARE(bench.statuses().count(u"processing"_s), 5);
-    QVERIFY(bench.batch->isSuggesting());
+        test.make("f/" + std::to_string(i) + ".txt");
+    test.add({ test.folder / "f" });
+    QSignalSpy durations(test.batch.get(), &RenamerViewModel::lastSuggestSecondsChanged);
+    test.suggester.isHeld = true;
+    auto run = test.batch->suggestAll();
+    QTRY_COMPARE(test.suggester.waiting, 5);
+    QCOMPARE(test.statuses().count(u"processing"_s), 5);
+    QVERIFY(test.batch->isSuggesting());
 
-    auto second = bench.batch->suggestAll();
+    auto second = test.batch->suggestAll();
     QVERIFY(second.isReady()); // one run at a time
-    bench.add({ bench.make("late.txt") });
-    QCOMPARE(bench.statuses().last(), u"pending"_s);
-    bench.suggester.letGo();
+    test.add({ test.make("late.txt") });
+    QCOMPARE(test.statuses().last(), u"pending"_s);
+    test.suggester.letGo();
     QCoro::waitFor(run);
-    QCOMPARE(bench.suggester.mostWaiting, 5);
-    QCOMPARE(bench.statuses().count(u"suggested"_s), 13);
+    QCOMPARE(test.suggester.mostWaiting, 5);
+    QCOMPARE(test.statuses().count(u"suggested"_s), 13);
     QCOMPARE(durations.count(), 1);
-    QVERIFY(bench.batch->lastSuggestSeconds());
-    QVERIFY(!bench.batch->isSuggesting());
+    QVERIFY(test.batch->lastSuggestSeconds());
+    QVERIFY(!test.batch->isSuggesting());
 
-    bench.suggest(); // with nothing pending it ends at once and counts as a run
+    test.suggest(); // with nothing pending it ends at once and counts as a run
     QCOMPARE(durations.count(), 2);
 }
 
 void RenamerViewModelTest::landsEveryOutcomeOnItsFile()
 {
-    Bench bench;
+    TestBatch test;
     const auto read = [&](const char *name, const Extraction &extraction) {
-        bench.reader.extractions.insert_or_assign(bench.make(name), extraction);
+        test.reader.extractions.insert_or_assign(test.make(name), extraction);
     };
     const auto answer = [&](const char *name, const NameSuggestionError &error) {
-        bench.make(std::string(name) + ".txt");
-        bench.suggester.errors.insert_or_assign(QString::fromLatin1(name), error);
+        test.make(std::string(name) + ".txt");
+        test.suggester.errors.insert_or_assign(QString::fromLatin1(name), error);
     };
     read("a unreadable.txt", Unreadable { u"Permission denied"_s });
     read("b empty.txt", NoTextFound {});
@@ -238,133 +173,133 @@ void RenamerViewModelTest::landsEveryOutcomeOnItsFile()
     answer("f keyless", MissingAPIKey {});
     answer("g offline", TransportError { u"Connection refused"_s });
     answer("h odd", InvalidResponse {});
-    bench.make("i good.txt");
-    bench.add({ bench.folder });
-    bench.suggest();
-    QCOMPARE(bench.statuses(),
+    test.make("i good.txt");
+    test.add({ test.folder });
+    test.suggest();
+    QCOMPARE(test.statuses(),
         (QStringList { u"failed: Permission denied"_s, u"noTextFound"_s, u"notSupportedYet"_s, u"noTextFound"_s,
             u"failed: credit balance is too low"_s, u"failed: No API key set."_s, u"failed: Connection refused"_s,
             u"failed: Unexpected response from the model."_s, u"suggested"_s }));
-    QCOMPARE(bench.batch->files().back().suggestedName, u"new i good"_s);
-    QCOMPARE(bench.batch->files().front().suggestedName, QString());
+    QCOMPARE(test.batch->files().back().suggestedName, u"new i good"_s);
+    QCOMPARE(test.batch->files().front().suggestedName, QString());
 
-    bench.suggester.errors.clear();
-    bench.suggest(); // nothing is asked again
-    QCOMPARE(bench.statuses().count(u"suggested"_s), 1);
+    test.suggester.errors.clear();
+    test.suggest(); // nothing is asked again
+    QCOMPARE(test.statuses().count(u"suggested"_s), 1);
 }
 
 void RenamerViewModelTest::asksWithTheSettingsOfThePass()
 {
-    Bench bench;
-    bench.locale.code = u"es"_s;
-    bench.batch->setFilenameLanguageOption(FollowSystem {});
-    bench.batch->setSelectedTemplateID(u"contract"_s);
-    bench.add({ bench.make("scan.v2.txt") });
-    bench.suggester.isHeld = true;
-    auto run = bench.batch->suggestAll();
-    QTRY_COMPARE(bench.suggester.waiting, 1);
+    TestBatch test;
+    test.locale.code = u"es"_s;
+    test.batch->setFilenameLanguageOption(FollowSystem {});
+    test.batch->setSelectedTemplateID(u"contract"_s);
+    test.add({ test.make("scan.v2.txt") });
+    test.suggester.isHeld = true;
+    auto run = test.batch->suggestAll();
+    QTRY_COMPARE(test.suggester.waiting, 1);
 
     // What changes now holds for the next pass only; the file in flight keeps the name it was asked for.
-    QVERIFY(bench.preferences.set(Preference::writeFinderTags, true));
-    bench.batch->setFilenameLanguageOption(FilenameLanguage::Dutch);
-    bench.batch->setSelectedTemplateID(u"no such template"_s);
-    bench.add({ bench.make("late.txt") });
-    bench.suggester.letGo();
+    QVERIFY(test.preferences.set(Preference::writeFinderTags, true));
+    test.batch->setFilenameLanguageOption(FilenameLanguage::Dutch);
+    test.batch->setSelectedTemplateID(u"no such template"_s);
+    test.add({ test.make("late.txt") });
+    test.suggester.letGo();
     QCoro::waitFor(run);
 
-    QCOMPARE(bench.suggester.requests.size(), 2U);
-    const SuggestionRequest &first = bench.suggester.requests[0];
+    QCOMPARE(test.suggester.requests.size(), 2U);
+    const SuggestionRequest &first = test.suggester.requests[0];
     QCOMPARE(first.existingName, u"scan.v2"_s);
     QCOMPARE(first.language, FilenameLanguage::Spanish);
     QVERIFY(first.nameTemplate && first.nameTemplate->id == "contract"_L1);
     QVERIFY(!first.includeTags);
-    const SuggestionRequest &second = bench.suggester.requests[1];
+    const SuggestionRequest &second = test.suggester.requests[1];
     QCOMPARE(second.language, FilenameLanguage::Dutch);
     QVERIFY(!second.nameTemplate);
     QVERIFY(second.includeTags);
-    QCOMPARE(bench.statuses(), (QStringList { u"suggested"_s, u"suggested"_s }));
-    QCOMPARE(bench.batch->files()[0].suggestedTags, QStringList {});
-    QCOMPARE(bench.batch->files()[1].suggestedTags, QStringList { u"tag"_s });
+    QCOMPARE(test.statuses(), (QStringList { u"suggested"_s, u"suggested"_s }));
+    QCOMPARE(test.batch->files()[0].suggestedTags, QStringList {});
+    QCOMPARE(test.batch->files()[1].suggestedTags, QStringList { u"tag"_s });
 }
 
 void RenamerViewModelTest::dropsResultsOfClearedFiles()
 {
-    Bench bench;
+    TestBatch test;
     for (int i = 0; i < 8; ++i)
-        bench.make("f/" + std::to_string(i) + ".txt");
-    bench.add({ bench.folder / "f" });
-    bench.suggester.isHeld = true;
-    auto run = bench.batch->suggestAll();
-    QTRY_COMPARE(bench.suggester.waiting, 5);
-    bench.batch->clear();
-    QVERIFY(!bench.batch->lastSuggestSeconds());
-    bench.add({ bench.make("new.txt") });
-    bench.suggester.letGo();
+        test.make("f/" + std::to_string(i) + ".txt");
+    test.add({ test.folder / "f" });
+    test.suggester.isHeld = true;
+    auto run = test.batch->suggestAll();
+    QTRY_COMPARE(test.suggester.waiting, 5);
+    test.batch->clear();
+    QVERIFY(!test.batch->lastSuggestSeconds());
+    test.add({ test.make("new.txt") });
+    test.suggester.letGo();
     QCoro::waitFor(run);
-    QCOMPARE(bench.suggester.requests.size(), 6U); // the cleared files that waited were never asked for
-    QCOMPARE(bench.statuses(), QStringList { u"suggested"_s });
-    QVERIFY(bench.batch->lastSuggestSeconds());
+    QCOMPARE(test.suggester.requests.size(), 6U); // the cleared files that waited were never asked for
+    QCOMPARE(test.statuses(), QStringList { u"suggested"_s });
+    QVERIFY(test.batch->lastSuggestSeconds());
 }
 
 void RenamerViewModelTest::resetsOnlySuggestedFilesOnAChoice()
 {
-    Bench bench;
-    bench.reader.extractions.insert_or_assign(bench.make("empty.txt"), NoTextFound {});
-    bench.make("good.txt");
-    bench.add({ bench.folder });
+    TestBatch test;
+    test.reader.extractions.insert_or_assign(test.make("empty.txt"), NoTextFound {});
+    test.make("good.txt");
+    test.add({ test.folder });
     const QStringList done { u"noTextFound"_s, u"suggested"_s };
     const QStringList reset { u"noTextFound"_s, u"pending"_s };
-    bench.suggest();
-    bench.batch->setFilenameLanguageOption(FilenameLanguage::Auto); // as it was
-    bench.batch->setSelectedTemplateID({});
-    QCOMPARE(bench.statuses(), done);
-    bench.batch->setFilenameLanguageOption(FollowSystem {});
-    QCOMPARE(bench.statuses(), reset);
-    QCOMPARE(bench.batch->files()[1].suggestedName, QString());
-    bench.suggest();
-    bench.batch->setSelectedTemplateID(u"invoice"_s);
-    QCOMPARE(bench.statuses(), reset);
-    bench.suggest();
-    bench.batch->setSelectedTemplateID({});
-    QCOMPARE(bench.statuses(), reset);
+    test.suggest();
+    test.batch->setFilenameLanguageOption(FilenameLanguage::Auto); // as it was
+    test.batch->setSelectedTemplateID({});
+    QCOMPARE(test.statuses(), done);
+    test.batch->setFilenameLanguageOption(FollowSystem {});
+    QCOMPARE(test.statuses(), reset);
+    QCOMPARE(test.batch->files()[1].suggestedName, QString());
+    test.suggest();
+    test.batch->setSelectedTemplateID(u"invoice"_s);
+    QCOMPARE(test.statuses(), reset);
+    test.suggest();
+    test.batch->setSelectedTemplateID({});
+    QCOMPARE(test.statuses(), reset);
 }
 
 void RenamerViewModelTest::mayBeDestroyedDuringEverything()
 {
-    Bench bench;
-    bench.add({ bench.make("a.txt") });
-    bench.suggester.isHeld = true;
-    auto run = bench.batch->suggestAll();
-    QTRY_COMPARE(bench.suggester.waiting, 1);
-    auto admission = bench.batch->addFiles({ bench.make("b.txt") }, true);
-    auto waiting = bench.batch->addFiles({ bench.make("c.txt") }, true);
-    bench.batch.reset();
-    bench.suggester.letGo();
+    TestBatch test;
+    test.add({ test.make("a.txt") });
+    test.suggester.isHeld = true;
+    auto run = test.batch->suggestAll();
+    QTRY_COMPARE(test.suggester.waiting, 1);
+    auto admission = test.batch->addFiles({ test.make("b.txt") }, true);
+    auto waiting = test.batch->addFiles({ test.make("c.txt") }, true);
+    test.batch.reset();
+    test.suggester.letGo();
     QTRY_VERIFY(run.isReady() && admission.isReady());
 }
 
 void RenamerViewModelTest::keepsItsCounts()
 {
-    Bench bench;
-    bench.make("f/a.txt", "123");
-    bench.make("f/b.txt", "45");
-    bench.add({ bench.folder / "f" });
-    QCOMPARE(bench.batch->totalBytes(), 5);
-    QCOMPARE(bench.batch->completedCount(), 0);
-    QVERIFY(bench.batch->hasPending());
-    bench.suggester.isHeld = true;
-    auto run = bench.batch->suggestAll();
-    QTRY_COMPARE(bench.suggester.waiting, 2);
-    QVERIFY(!bench.batch->hasPending());
-    QCOMPARE(bench.batch->completedCount(), 0);
-    bench.suggester.letGo();
+    TestBatch test;
+    test.make("f/a.txt", "123");
+    test.make("f/b.txt", "45");
+    test.add({ test.folder / "f" });
+    QCOMPARE(test.batch->totalBytes(), 5);
+    QCOMPARE(test.batch->completedCount(), 0);
+    QVERIFY(test.batch->hasPending());
+    test.suggester.isHeld = true;
+    auto run = test.batch->suggestAll();
+    QTRY_COMPARE(test.suggester.waiting, 2);
+    QVERIFY(!test.batch->hasPending());
+    QCOMPARE(test.batch->completedCount(), 0);
+    test.suggester.letGo();
     QCoro::waitFor(run);
-    QCOMPARE(bench.batch->completedCount(), 2);
-    bench.batch->setFilenameLanguageOption(FilenameLanguage::Dutch);
-    QCOMPARE(bench.batch->completedCount(), 0);
-    bench.batch->clear();
-    QCOMPARE(bench.batch->totalBytes(), 0);
-    QVERIFY(!bench.batch->hasPending());
+    QCOMPARE(test.batch->completedCount(), 2);
+    test.batch->setFilenameLanguageOption(FilenameLanguage::Dutch);
+    QCOMPARE(test.batch->completedCount(), 0);
+    test.batch->clear();
+    QCOMPARE(test.batch->totalBytes(), 0);
+    QVERIFY(!test.batch->hasPending());
 }
 
 QTEST_GUILESS_MAIN(RenamerViewModelTest)

@@ -1,0 +1,172 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/commands.h"
+#include "cli/FileArgumentList.h"
+#include "cli/Progress.h"
+#include "cli/suggestNames.h"
+#include "cli/terminalText.h"
+#include "history/applyHistoryChanges.h"
+#include "renaming/planRenames.h"
+#include <algorithm>
+#include <csignal>
+#include <QCoreApplication>
+#include <QCoroTask>
+
+namespace Varlo {
+
+using namespace Qt::StringLiterals;
+
+static volatile std::sig_atomic_t isInterrupted = 0;
+
+/// From here on an interrupt ends the action after the rename in hand.
+static void stopOnInterrupt()
+{
+    std::signal(SIGINT, [](int) { isInterrupted = 1; });
+}
+
+static const FileItem *findItem(const RenamerViewModel &batch, const QUuid &id)
+{
+    const auto item = std::ranges::find(batch.files(), id, &FileItem::id);
+    return item == batch.files().end() ? nullptr : &*item;
+}
+
+/// What will happen to each file, numbers included; the outcome of a file that will get no name is why not.
+static std::vector<FileRenamer::Outcome> planBatch(const std::vector<const FileItem *> &items)
+{
+    std::vector<RenameRequest> requests;
+    for (const FileItem *item : items)
+        requests.push_back({ item->path, item->suggestedName, item->identity });
+    return planRenames(requests);
+}
+
+static void printPlan(const std::vector<const FileItem *> &items, Terminal &terminal)
+{
+    const std::vector<FileRenamer::Outcome> outcomes = planBatch(items);
+    std::vector<TableRow> rows;
+    for (std::size_t index = 0; index < items.size(); ++index) {
+        const std::filesystem::path &path = items[index]->path;
+        TableCell target;
+        if (!outcomes[index])
+            target = { terminalText(description(outcomes[index].error())), Colour::Red };
+        else if (*outcomes[index] == path)
+            target = { QCoreApplication::translate("Terminal", "(stays as it is)"), Colour::Dim };
+        else
+            target = { terminalText(outcomes[index]->filename()), Colour::Green };
+        rows.push_back({ { terminalText(path.filename()), Colour::Plain }, target,
+            { pathFromHere(path.parent_path()), Colour::Dim } });
+    }
+    terminal.printTable(
+        { QCoreApplication::translate("Terminal", "File"), QCoreApplication::translate("Terminal", "New name"),
+            QCoreApplication::translate("Terminal", "Folder") },
+        rows);
+}
+
+/// For the files that will not be renamed, so that nobody wonders where they are.
+static void tellOfRest(const RenamerViewModel &batch, Terminal &terminal)
+{
+    for (const FileItem &item : batch.files()) {
+        if (!item.suggestedName.isEmpty())
+            continue;
+        const auto *failed = std::get_if<FileItem::Failed>(&item.status);
+        terminal.complain(
+            pathFromHere(item.path) + u": "_s + (failed ? terminalText(failed->message) : label(item.status)));
+    }
+}
+
+static QJsonObject renamedToJson(const FileItem &item, const std::filesystem::path &oldPath)
+{
+    FileItem before = item;
+    before.path = oldPath;
+    QJsonObject object = toJson(before);
+    if (std::holds_alternative<FileItem::Renamed>(item.status))
+        insertPath(object, u"newPath"_s, item.path);
+    return object;
+}
+
+static bool isConfirmed(const RenameCommand &command, qsizetype count, Session &session)
+{
+    Terminal &terminal = session.terminal();
+    const qsizetype kept = static_cast<qsizetype>(maximumLogEntries);
+    if (count > kept) {
+        terminal.complain(QCoreApplication::translate(
+            "Terminal", "the history keeps the newest %1 renames, so the first %2 of these cannot be taken back later")
+                              .arg(kept)
+                              .arg(count - kept));
+    }
+    if (command.yes)
+        return true;
+    return terminal.confirm(
+        QCoreApplication::translate("Terminal", "Rename %n file(s)?", nullptr, static_cast<int>(count)));
+}
+
+/// Carries the plan out; returns how many files were renamed.
+static qsizetype renameFiles(RenamerViewModel &batch, qsizetype count, const RenameCommand &command, Terminal &terminal)
+{
+    qsizetype renamedCount = 0;
+    std::map<QUuid, std::filesystem::path> oldPaths;
+    for (const FileItem &item : batch.files())
+        oldPaths.emplace(item.id, item.path);
+    Progress progress(terminal, count);
+    const auto connection = QObject::connect(&batch, &RenamerViewModel::renameFinished, [&](int row) {
+        const FileItem &item = batch.files()[static_cast<std::size_t>(row)];
+        const auto *failed = std::get_if<FileItem::Failed>(&item.status);
+        renamedCount += failed ? 0 : 1;
+        if (command.json)
+            terminal.printJson(renamedToJson(item, oldPaths.at(item.id)));
+        if (failed)
+            terminal.complain(pathFromHere(item.path) + u": "_s + terminalText(failed->message));
+        progress.advance();
+        if (isInterrupted)
+            batch.stopRenaming();
+    });
+    stopOnInterrupt();
+    QCoro::waitFor(batch.renameAll());
+    QObject::disconnect(connection);
+    return renamedCount;
+}
+
+ExitCode run(const RenameCommand &command, Session &session)
+{
+    Terminal &terminal = session.terminal();
+    if (!command.yes && !command.dryRun && !terminal.canAsk()) {
+        terminal.complain(QCoreApplication::translate(
+            "Terminal", "there is no terminal to ask on; give --yes to rename without asking"));
+        return ExitCode::WrongUsage;
+    }
+    session.folderPanel().setMayAsk(!command.yes);
+    const auto whenSuggested = [&](const FileItem &item) {
+        // A renamed file's line comes with its rename.
+        if (command.json && (command.dryRun || item.suggestedName.isEmpty()))
+            terminal.printJson(toJson(item));
+    };
+    const std::optional<NamedBatch> named = suggestNames(command.naming, command.arguments, session, whenSuggested);
+    if (!named)
+        return ExitCode::WrongUsage;
+    RenamerViewModel &batch = *named->batch;
+    const bool someFailed = named->hasRefusedArguments || std::ranges::any_of(batch.files(), hasFailed);
+    const ExitCode codeSoFar = someFailed ? ExitCode::SomeFailed : ExitCode::Success;
+
+    std::vector<const FileItem *> items;
+    for (const QUuid &id : batch.renamableFiles())
+        items.push_back(findItem(batch, id));
+    const auto count = static_cast<qsizetype>(items.size());
+    tellOfRest(batch, terminal);
+    if (!command.json && !items.empty())
+        printPlan(items, terminal);
+    if (items.empty() || command.dryRun || !isConfirmed(command, count, session))
+        return codeSoFar;
+
+    const qsizetype renamedCount = renameFiles(batch, count, command, terminal);
+    session.tellNotices();
+    if (renamedCount > 0) {
+        terminal.inform(
+            QCoreApplication::translate("Terminal", "Renamed %n file(s).", nullptr, static_cast<int>(renamedCount))
+            + u' '
+            + QCoreApplication::translate("Terminal", "`varlo undo --last %1` takes that back.").arg(renamedCount));
+    }
+    if (isInterrupted)
+        return ExitCode::Interrupted;
+    return renamedCount < count ? ExitCode::SomeFailed : codeSoFar;
+}
+
+} // namespace Varlo
