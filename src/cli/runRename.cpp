@@ -95,8 +95,7 @@ static bool isConfirmed(const RenameCommand &command, qsizetype count, Session &
     }
     if (command.yes)
         return true;
-    return terminal.confirm(
-        QCoreApplication::translate("Terminal", "Rename %n file(s)?", nullptr, static_cast<int>(count)));
+    return terminal.confirm(QCoreApplication::translate("Terminal", "Rename as shown?"));
 }
 
 /// Carries the plan out; returns how many files were renamed.
@@ -160,9 +159,8 @@ ExitCode run(const RenameCommand &command, Session &session)
     session.tellNotices();
     if (renamedCount > 0) {
         terminal.inform(
-            QCoreApplication::translate("Terminal", "Renamed %n file(s).", nullptr, static_cast<int>(renamedCount))
-            + u' '
-            + QCoreApplication::translate("Terminal", "`varlo undo --last %1` takes that back.").arg(renamedCount));
+            QCoreApplication::translate("Terminal", "Files renamed: %1. `varlo undo --last %1` takes that back.")
+                .arg(renamedCount));
     }
     if (isInterrupted)
         return ExitCode::Interrupted;

@@ -9,6 +9,7 @@ import base64
 import json
 import os
 import pathlib
+import pty
 import signal
 import subprocess
 import sys
@@ -184,10 +185,85 @@ class TerminalTest(unittest.TestCase):
         kept = [path for path in preferences.parent.iterdir() if path.name.startswith("preferences.damaged")]
         self.assertEqual([path.read_text() for path in kept], ['{"uiLanguage": "nl", '])
 
+    def test_rename_shows_numbers_and_can_be_taken_back(self):
+        for name in ("a.txt", "b.txt"):
+            self.write(name, "Minutes of the boat club\n\nEverybody came, and all were merry until late.")
+        before = {path.name: (path.stat().st_ino, path.read_bytes()) for path in self.files.iterdir()}
+        self.assertIn(b"--yes", self.varlo("rename", "--offline", str(self.files), code=2).stderr)
+        plan = self.varlo("rename", "--offline", "--dry-run", str(self.files)).stdout
+        self.assertEqual({path.name for path in self.files.iterdir()}, set(before))
+        lines = self.json_lines("rename", "--offline", "--yes", "--json", str(self.files))
+        self.assertEqual([line["status"] for line in lines], ["renamed", "renamed"])
+        first, second = (line["newPath"] for line in lines)
+        self.assertEqual(second, first[:-4] + " 2.txt")
+        for path in (first, second):
+            self.assertTrue(os.path.exists(path))
+            self.assertIn(os.path.basename(path).encode(), plan)  # as the plan had said
+
+        history = self.json_lines("history", "--json")
+        self.assertEqual([entry["toPath"] for entry in history], [second, first])
+        self.assertEqual(self.json_lines("history", "--json", "--search", "B.TXT"), history[:1])
+        self.varlo("undo", "no such id", code=1)
+        undone = self.json_lines("undo", "--json", history[1]["id"])
+        self.assertEqual(undone[0]["restoredPath"], str(self.files / "a.txt"))
+        self.varlo("undo", "--last", "5")
+        after = {path.name: (path.stat().st_ino, path.read_bytes()) for path in self.files.iterdir()}
+        self.assertEqual(after, before)
+        self.assertEqual(sum("undoneAt" in entry for entry in self.json_lines("history", "--json")), 2)
+        self.varlo("history", "clear", code=2)
+        self.varlo("history", "clear", "--yes")
+        self.assertEqual(self.json_lines("history", "--json"), [])
+
+    def test_rename_asks_on_a_terminal(self):
+        for answer in (b"n\n", b"y\n"):
+            self.write("a.txt", "Minutes of the boat club\n\nEverybody came, and all were merry until late.")
+            child, terminal = pty.fork()
+            if child == 0:
+                os.execve(VARLO, ["varlo", "rename", "--offline", str(self.files)], self.environment)
+            said = b""
+            while b"[y/N]" not in said:
+                said += os.read(terminal, 4096)
+            os.write(terminal, answer)
+            try:
+                while os.read(terminal, 4096):
+                    pass
+            except OSError:
+                pass  # how Linux says that the other side has gone
+            os.close(terminal)
+            self.assertEqual(os.waitstatus_to_exitcode(os.waitpid(child, 0)[1]), 0)
+            self.assertEqual((self.files / "a.txt").exists(), answer == b"n\n")
+
+    def test_interrupted_rename_leaves_history_and_disk_alike(self):
+        for number in range(3000):
+            self.write(f"{number:04}.txt", f"Letter {number} about the boat\n\nIt is as it was, and so it stays, we think.")
+        run = subprocess.Popen([VARLO, "rename", "--offline", "--yes", "--json", str(self.files)],
+                               env=self.environment, stdout=subprocess.PIPE)
+        with run:
+            run.stdout.readline()
+            run.send_signal(signal.SIGINT)
+            said = run.stdout.read()
+            self.assertEqual(run.wait(timeout=50), 130)
+        renamed = said.count(b'"renamed"') + 1
+        history = self.json_lines("history", "--json")
+        self.assertEqual(len(history), min(renamed, 1000))
+        for entry in history:
+            self.assertTrue(os.path.exists(entry["toPath"]))
+        self.assertEqual(len(list(self.files.iterdir())), 3000)
+        self.varlo("undo", "--last", str(len(history)))
+        self.assertEqual(len(list(self.files.glob("[0-9][0-9][0-9][0-9].txt"))), 3000 - renamed + len(history))
+
+    def test_folders(self):
+        self.varlo("folders", "add", str(self.files), "/nonexistent", code=1)
+        self.assertEqual(self.json_lines("folders", "--json"), [{"path": str(self.files)}])
+        self.varlo("folders", "remove", str(self.files))
+        self.varlo("folders", "remove", str(self.files), code=1)
+        self.assertEqual(self.json_lines("folders", "list", "--json"), [])
+
     def test_no_subcommand_loads_the_windows_libraries(self):
         self.write("a.txt")
         for call in (["suggest", "--offline", str(self.files)], ["extract", str(self.files / "a.txt")], ["doctor"],
-                     ["key", "status"], ["formats"], ["templates"], ["config"], ["--help"]):
+                     ["key", "status"], ["formats"], ["templates"], ["config"], ["--help"], ["history"],
+                     ["undo"], ["rename", "--offline", "--yes", str(self.files)]):
             run = subprocess.run([VARLO, *call], env=self.environment | {"LD_DEBUG": "files"}, capture_output=True)
             loaded = run.stderr.decode(errors="replace")
             self.assertIn("libQt6Core", loaded)
