@@ -31,7 +31,7 @@ static TableCell suggestionCell(const FileItem &item)
         item.status);
 }
 
-static void printTable(const std::vector<FileItem> &items, Terminal &terminal)
+static void printTable(const FileItems &items, Terminal &terminal)
 {
     const bool hasTags = std::ranges::any_of(items, [](const FileItem &item) { return !item.suggestedTags.isEmpty(); });
     QStringList headings { QCoreApplication::translate("Terminal", "File"),
@@ -57,7 +57,7 @@ ExitCode run(const SuggestCommand &command, Session &session)
     const std::optional<NamedBatch> named = suggestNames(command.naming, command.arguments, session, whenDone);
     if (!named)
         return ExitCode::WrongUsage;
-    const std::vector<FileItem> &items = named->batch->files();
+    const FileItems &items = named->batch->files();
     if (!command.json && !items.empty())
         printTable(items, terminal);
     const bool someFailed = named->hasRefusedArguments || std::ranges::any_of(items, hasFailed);

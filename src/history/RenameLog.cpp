@@ -82,7 +82,7 @@ static std::string comparableName(const std::filesystem::path &path)
 bool RenameLog::hasStandingRename(const std::filesystem::path &path) const
 {
     // Equal paths end in equal names, so the names decide alone.
-    return m_standingNames.contains(comparableName(path));
+    return !m_standingNames.empty() && m_standingNames.contains(comparableName(path));
 }
 
 void RenameLog::countStanding(const Entry &entry, int change)

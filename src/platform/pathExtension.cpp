@@ -6,36 +6,42 @@
 
 namespace Varlo {
 
-static std::string lastComponent(const std::filesystem::path &path)
+static std::string_view lastComponent(std::string_view path)
 {
-    // "folder.app/" has an empty file name behind its slash.
-    return (path.has_filename() ? path : path.parent_path()).filename().string();
+    while (path.ends_with('/')) // "folder.app/" is called "folder.app"
+        path.remove_suffix(1);
+    return path.substr(path.rfind('/') + 1); // npos + 1 is 0
 }
 
-std::string pathExtension(const std::filesystem::path &path)
+static std::string_view extensionOf(std::string_view path)
 {
-    const std::string name = lastComponent(path);
+    const std::string_view name = lastComponent(path);
     const size_t dot = name.rfind('.');
-    if (dot == std::string::npos || dot == 0)
-        return {};
-    return name.substr(dot + 1);
+    return dot == std::string_view::npos || dot == 0 ? std::string_view() : name.substr(dot + 1);
 }
 
-std::string lowerCaseExtension(const std::filesystem::path &path)
+std::string pathExtension(const std::filesystem::path &path) { return std::string(extensionOf(path.native())); }
+
+std::string lowerCaseExtension(std::string_view path)
 {
-    std::string extension = pathExtension(path);
+    std::string extension(extensionOf(path));
     std::transform(extension.begin(), extension.end(), extension.begin(),
         [](char byte) { return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte; });
     return extension;
 }
 
+std::string lowerCaseExtension(const std::filesystem::path &path)
+{
+    return lowerCaseExtension(std::string_view(path.native()));
+}
+
 std::string baseName(const std::filesystem::path &path)
 {
-    std::string name = lastComponent(path);
-    const std::string extension = pathExtension(path);
+    std::string_view name = lastComponent(path.native());
+    const std::string_view extension = extensionOf(name);
     if (!extension.empty())
-        name.resize(name.size() - extension.size() - 1);
-    return name;
+        name.remove_suffix(extension.size() + 1);
+    return std::string(name);
 }
 
 } // namespace Varlo

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 namespace Varlo {
 
@@ -15,6 +16,7 @@ namespace Varlo {
 [[nodiscard]] std::string pathExtension(const std::filesystem::path &path);
 /// The extension with A to Z made small, to be compared with lists; all other bytes stay, whatever the locale.
 [[nodiscard]] std::string lowerCaseExtension(const std::filesystem::path &path);
+[[nodiscard]] std::string lowerCaseExtension(std::string_view path);
 /// The last component without its extension.
 [[nodiscard]] std::string baseName(const std::filesystem::path &path);
 

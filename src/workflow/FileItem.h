@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/CompactPath.h"
 #include "platform/FileIdentity.h"
+#include <deque>
 #include <filesystem>
 #include <optional>
 #include <QString>
@@ -44,7 +46,7 @@ struct FileItem {
         = std::variant<Pending, Processing, Suggested, Renamed, AlreadyRenamed, NoTextFound, NotSupportedYet, Failed>;
 
     QUuid id; ///< made when the item is added; never changes
-    std::filesystem::path path; ///< standardized; where the file is now
+    CompactPath path; ///< standardized; where the file is now
     Status status;
     QString suggestedName; ///< without extension; the user may edit it; "" while there is none
     QStringList suggestedTags;
@@ -52,6 +54,9 @@ struct FileItem {
     qint64 byteSize = 0; ///< as it was when added; 0 where it could not be read
     std::optional<FileIdentity> identity; ///< as it was when added: a rename takes no other file for it
 };
+
+/// In the order of admission. A growing deque moves none of its items, which a vector of 100,000 does again and again.
+using FileItems = std::deque<FileItem>;
 
 /// The word that the window shows for a status.
 [[nodiscard]] QString label(const FileItem::Status &status);

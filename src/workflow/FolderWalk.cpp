@@ -11,14 +11,13 @@
 #include <fcntl.h>
 #include <string_view>
 #include <sys/stat.h>
-#include <sys/sysmacros.h>
 
 namespace Varlo {
 
 namespace {
 
 /// A folder that the desktop shows as one thing.
-bool isPackage(const std::filesystem::path &name)
+bool isPackage(std::string_view name)
 {
     static constexpr std::array<std::string_view, 9> packages { "app", "bundle", "framework", "plugin", "kext",
         "photoslibrary", "rtfd", "xcodeproj", "playground" };
@@ -27,13 +26,13 @@ bool isPackage(const std::filesystem::path &name)
 
 void readStatus(int folder, const char *name, FolderWalk::File &file)
 {
-    struct statx status { };
-    if (::statx(folder, name, AT_SYMLINK_NOFOLLOW, STATX_SIZE | STATX_INO | STATX_TYPE, &status) != 0)
+    struct stat status { };
+    if (::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0)
         return;
-    file.identity = FileIdentity { makedev(status.stx_dev_major, status.stx_dev_minor), status.stx_ino };
-    if (S_ISLNK(status.stx_mode) && ::statx(folder, name, 0, STATX_SIZE, &status) != 0)
+    file.identity = FileIdentity { status.st_dev, status.st_ino };
+    if (S_ISLNK(status.st_mode) && ::fstatat(folder, name, &status, 0) != 0)
         return;
-    file.byteSize = static_cast<qint64>(status.stx_size);
+    file.byteSize = status.st_size;
 }
 
 } // namespace
@@ -46,7 +45,7 @@ struct FolderWalk::Entry {
 };
 
 struct FolderWalk::Folder {
-    std::filesystem::path path;
+    std::string prefix; // the path with a "/" behind it
     std::vector<Entry> entries;
     std::size_t next = 0;
 };
@@ -75,7 +74,7 @@ std::vector<FolderWalk::File> FolderWalk::next(std::chrono::milliseconds duratio
             continue;
         }
         Entry &entry = folder.entries[folder.next++];
-        std::filesystem::path path = folder.path / entry.name;
+        std::string path = folder.prefix + entry.name;
         if (entry.isFolder)
             enter(path); // may move m_open's elements, never the folders that they own
         if (entry.isWanted) {
@@ -102,7 +101,7 @@ void FolderWalk::visitGiven(const std::filesystem::path &path, std::vector<File>
     found.push_back(std::move(file));
 }
 
-void FolderWalk::enter(std::filesystem::path path)
+void FolderWalk::enter(const std::filesystem::path &path)
 {
     // Below a given folder links are told by their entry's kind and never get here.
     FileDescriptor descriptor(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -114,18 +113,20 @@ void FolderWalk::enter(std::filesystem::path path)
         return;
 
     auto folder = std::make_unique<Folder>();
-    folder->path = std::move(path);
+    folder->prefix = path.native();
+    if (!folder->prefix.ends_with('/'))
+        folder->prefix += '/';
     while (const dirent *listed = ::readdir(stream.get())) {
         if (listed->d_name[0] == '.')
             continue;
-        const std::filesystem::path name(listed->d_name);
+        const std::string_view name(listed->d_name);
         unsigned char kind = listed->d_type;
         if (kind == DT_UNKNOWN) {
             struct stat status { };
             if (::fstatat(folderDescriptor, listed->d_name, &status, AT_SYMLINK_NOFOLLOW) == 0)
                 kind = IFTODT(status.st_mode);
         }
-        Entry entry { listed->d_name, kind == DT_DIR && !isPackage(name), false, {} };
+        Entry entry { std::string(name), kind == DT_DIR && !isPackage(name), false, {} };
         entry.isWanted = supportedExtensions().contains(lowerCaseExtension(name));
         if (entry.isWanted)
             readStatus(folderDescriptor, listed->d_name, entry.file);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/CompactPath.h"
 #include "platform/FileIdentity.h"
 #include <chrono>
 #include <filesystem>
@@ -18,7 +19,7 @@ namespace Varlo {
 class FolderWalk {
 public:
     struct File {
-        std::filesystem::path path;
+        CompactPath path;
         qint64 byteSize = 0; ///< 0 where it could not be read
         std::optional<FileIdentity> identity; ///< of the entry itself, also where it is a link
     };
@@ -36,7 +37,7 @@ private:
     struct Folder;
 
     void visitGiven(const std::filesystem::path &path, std::vector<File> &found);
-    void enter(std::filesystem::path path);
+    void enter(const std::filesystem::path &path);
 
     std::vector<std::filesystem::path> m_given;
     std::size_t m_nextGiven = 0;

@@ -8,10 +8,13 @@
 #include "renaming/FinderPermission.h"
 #include "renaming/renameWithFinder.h"
 #include <algorithm>
+#include <array>
+#include <bit>
 #include <QCoroFuture>
 #include <QCoroTimer>
 #include <QElapsedTimer>
 #include <QPointer>
+#include <QRandomGenerator>
 #include <QtConcurrentRun>
 
 namespace Varlo {
@@ -21,14 +24,12 @@ using namespace std::chrono_literals;
 RenamerViewModel::RenamerViewModel(const Collaborators &collaborators, QObject *parent)
     : QAbstractListModel(parent)
     , m_with(collaborators)
+    , m_rowsByPath(0, PathHash { &m_files }, PathEqual { &m_files })
 {
     connect(&m_with.renameLog, &RenameLog::reverted, this, &RenamerViewModel::takeBack);
 }
 
-int RenamerViewModel::rowCount(const QModelIndex &parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_files.size());
-}
+int RenamerViewModel::rowCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : m_announcedRows; }
 
 QVariant RenamerViewModel::data(const QModelIndex &index, int role) const
 {
@@ -129,46 +130,71 @@ QCoro::Task<void> RenamerViewModel::addFiles(std::vector<std::filesystem::path> 
     m_admissionTurns.end();
 }
 
+std::size_t RenamerViewModel::PathHash::operator()(int row) const
+{
+    return (*this)(std::string_view((*files)[static_cast<std::size_t>(row)].path.native()));
+}
+
+bool RenamerViewModel::PathEqual::operator()(int row, int other) const
+{
+    return row == other || (*this)(std::string_view((*files)[static_cast<std::size_t>(other)].path.native()), row);
+}
+
+bool RenamerViewModel::PathEqual::operator()(std::string_view path, int row) const
+{
+    return (*files)[static_cast<std::size_t>(row)].path.native() == path;
+}
+
+/// A random UUID (RFC 9562, version 4). QUuid::createUuid() asks the system for each, which takes longer than to admit
+/// a file; an id here only has to differ from the others of this process.
+static QUuid makeId()
+{
+    std::array<quint32, 4> words {};
+    QRandomGenerator::global()->fillRange(words.data(), words.size());
+    const auto timeHigh = static_cast<ushort>((words[1] & 0x0FFF) | 0x4000);
+    const auto bytes = std::bit_cast<std::array<uchar, 8>>(std::array { words[2], words[3] });
+    return QUuid(words[0], static_cast<ushort>(words[1] >> 16), timeHigh, static_cast<uchar>((bytes[0] & 0x3F) | 0x80),
+        bytes[1], bytes[2], bytes[3], bytes[4], bytes[5], bytes[6], bytes[7]);
+}
+
 qsizetype RenamerViewModel::admit(std::vector<FolderWalk::File> found)
 {
-    std::vector<FileItem> items;
-    items.reserve(found.size());
+    const int firstRow = m_announcedRows;
     for (FolderWalk::File &file : found) {
-        const int row = rowCount() + static_cast<int>(items.size());
-        if (!m_rowOfPath.emplace(file.path.native(), row).second)
+        const auto row = static_cast<int>(m_files.size());
+        FileItem &item = m_files.emplace_back();
+        item.path = std::move(file.path);
+        if (!m_rowsByPath.insert(row).second) {
+            m_files.pop_back();
             continue;
-        FileItem item;
-        item.id = QUuid::createUuid();
-        if (m_with.renameLog.hasStandingRename(file.path))
-            item.status = FileItem::AlreadyRenamed {};
+        }
+        item.id = makeId();
         item.byteSize = file.byteSize;
         item.identity = file.identity;
-        item.path = std::move(file.path);
-        items.push_back(std::move(item));
-    }
-    if (items.empty())
-        return 0;
-
-    const int firstRow = rowCount();
-    beginInsertRows({}, firstRow, firstRow + static_cast<int>(items.size()) - 1);
-    for (FileItem &item : items) {
-        m_rowOfId.insert(item.id, rowCount());
+        if (m_with.renameLog.hasStandingRename(item.path))
+            item.status = FileItem::AlreadyRenamed {};
+        m_rowOfId.insert(item.id, row);
         m_totalBytes += item.byteSize;
         countStatus(item.status, +1);
-        m_files.push_back(std::move(item));
     }
+    const auto rowsNow = static_cast<int>(m_files.size());
+    if (rowsNow == firstRow)
+        return 0;
+    beginInsertRows({}, firstRow, rowsNow - 1);
+    m_announcedRows = rowsNow;
     endInsertRows();
     emit countsChanged();
-    return static_cast<qsizetype>(items.size());
+    return rowsNow - firstRow;
 }
 
 void RenamerViewModel::clear()
 {
     ++m_clearCount;
     beginResetModel();
+    m_rowsByPath.clear(); // before the paths that it goes by
     m_files.clear();
+    m_announcedRows = 0;
     m_rowOfId.clear();
-    m_rowOfPath.clear();
     m_pendingCount = 0;
     m_processingCount = 0;
     m_totalBytes = 0;
@@ -427,7 +453,7 @@ QCoro::Task<void> RenamerViewModel::askForFolderAndRetry(QUuid id)
     std::optional<int> row = rowOf(id);
     if (!row)
         co_return;
-    const std::filesystem::path folder = m_files[static_cast<std::size_t>(*row)].path.parent_path();
+    const std::filesystem::path folder = m_files[static_cast<std::size_t>(*row)].path.parentPath();
     const bool isGranted = co_await m_with.folderAccess.requestAccess(folder);
     if (!self)
         co_return;
@@ -479,10 +505,10 @@ void RenamerViewModel::failRename(const QUuid &id, const QString &message)
 
 void RenamerViewModel::takeBack(const std::filesystem::path &renamedPath, const std::filesystem::path &restoredPath)
 {
-    const auto found = m_rowOfPath.find(renamedPath.native());
-    if (found == m_rowOfPath.end())
+    const auto found = m_rowsByPath.find(std::string_view(renamedPath.native()));
+    if (found == m_rowsByPath.end())
         return;
-    const int row = found->second;
+    const int row = *found;
     setPath(row, restoredPath);
     setStatus(row, FileItem::Pending {});
     FileItem &item = m_files[static_cast<std::size_t>(row)];
@@ -494,9 +520,9 @@ void RenamerViewModel::takeBack(const std::filesystem::path &renamedPath, const 
 void RenamerViewModel::setPath(int row, const std::filesystem::path &path)
 {
     FileItem &item = m_files[static_cast<std::size_t>(row)];
-    m_rowOfPath.erase(item.path.native());
+    m_rowsByPath.erase(row);
     item.path = path;
-    m_rowOfPath.insert_or_assign(path.native(), row);
+    m_rowsByPath.insert(row);
     announce(row, { PathRole, FileNameRole, IconNameRole, Qt::DisplayRole });
 }
 

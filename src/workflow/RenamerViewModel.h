@@ -19,7 +19,7 @@
 #include <QAbstractListModel>
 #include <QCoroTask>
 #include <QHash>
-#include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace Varlo {
@@ -66,7 +66,7 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    [[nodiscard]] const std::vector<FileItem> &files() const { return m_files; }
+    [[nodiscard]] const FileItems &files() const { return m_files; }
     [[nodiscard]] bool isSuggesting() const { return m_isSuggesting; }
     /// How long the latest complete suggestion run took.
     [[nodiscard]] std::optional<double> lastSuggestSeconds() const { return m_lastSuggestSeconds; }
@@ -133,6 +133,20 @@ private:
         std::optional<NameTemplate> nameTemplate;
         bool includeTags = false;
     };
+    // Rows are told apart by their item's path, which stands in the item alone.
+    struct PathHash {
+        using is_transparent = void;
+        const FileItems *files;
+        std::size_t operator()(std::string_view path) const { return std::hash<std::string_view>()(path); }
+        std::size_t operator()(int row) const;
+    };
+    struct PathEqual {
+        using is_transparent = void;
+        const FileItems *files;
+        bool operator()(int row, int other) const;
+        bool operator()(std::string_view path, int row) const;
+        bool operator()(int row, std::string_view path) const { return (*this)(path, row); }
+    };
     struct SuggestionResult {
         QUuid id;
         FileItem::Status status;
@@ -167,9 +181,10 @@ private:
     void announce(int row, const QList<int> &roles);
 
     Collaborators m_with;
-    std::vector<FileItem> m_files;
+    FileItems m_files;
+    int m_announcedRows = 0; // what views have been told of; equal to the number of items but while some are admitted
     QHash<QUuid, int> m_rowOfId;
-    std::unordered_map<std::string, int> m_rowOfPath; // finds a duplicate without a search
+    std::unordered_set<int, PathHash, PathEqual> m_rowsByPath; // finds a duplicate without a search
     qsizetype m_pendingCount = 0;
     qsizetype m_processingCount = 0;
     qint64 m_totalBytes = 0;

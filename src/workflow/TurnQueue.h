@@ -11,8 +11,8 @@ namespace Varlo {
 /// Lets actions that take a while follow each other in the order in which they were begun. Lives on the main thread.
 class TurnQueue {
 public:
-    /// Ends when every action begun before has called end(). Also when the queue is destroyed meanwhile: the caller then
-    /// has to notice that by itself.
+    /// Ends when every action begun before has called end(). Also when the queue is destroyed meanwhile: the caller
+    /// then has to notice that by itself.
     QCoro::Task<void> begin();
     /// The action whose turn it is is over.
     void end();

@@ -64,7 +64,7 @@ struct TestBatch {
     {
         QStringList names;
         for (const FileItem &item : batch->files())
-            names.append(QString::fromStdString(item.path.lexically_relative(folder).native()));
+            names.append(QString::fromStdString(std::filesystem::path(item.path).lexically_relative(folder).native()));
         return names;
     }
     [[nodiscard]] QStringList statuses() const

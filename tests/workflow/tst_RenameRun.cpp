@@ -165,7 +165,7 @@ void RenameRunTest::prefersFinderWhereItMay()
     test.addNamed("b.txt", u"B"_s);
     host.answer = u"/elsewhere/by Finder.txt"_s;
     QCoro::waitFor(test.batch->rename(test.batch->files()[0].id));
-    QCOMPARE(test.batch->files()[0].path, Path("/elsewhere/by Finder.txt"));
+    QCOMPARE(Path(test.batch->files()[0].path), Path("/elsewhere/by Finder.txt"));
     QCOMPARE(test.log.entries().back().toPath, Path("/elsewhere/by Finder.txt"));
     host.answer = tl::unexpected(AutomationHost::ScriptError { -43, u"The disk is full."_s });
     renameAll(test);
@@ -263,7 +263,7 @@ void RenameRunTest::returnsARevertedFileToPending()
     test.make("a.txt"); // somebody took the old name meanwhile
     QVERIFY(QCoro::waitFor(test.log.revertLatest()));
     const FileItem &item = test.batch->files().front();
-    QCOMPARE(item.path, test.folder / "a 2.txt");
+    QCOMPARE(Path(item.path), test.folder / "a 2.txt");
     QCOMPARE(test.statuses(), QStringList { u"pending"_s });
     QCOMPARE(item.suggestedName, QString());
     QVERIFY(!item.previousName);
