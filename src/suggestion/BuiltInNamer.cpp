@@ -6,6 +6,7 @@
 #include "suggestion/builtin/findParties.h"
 #include "suggestion/builtin/findTitle.h"
 #include "suggestion/builtin/findVendor.h"
+#include "suggestion/builtin/mixedCaseForm.h"
 #include "suggestion/builtin/Reading.h"
 #include "suggestion/sanitizeFilename.h"
 #include <algorithm>
@@ -23,11 +24,12 @@ constexpr qsizetype longestName = 80; // characters
 struct Piece {
     QString text;
     bool mayBeShortened = false;
+    QString plainer; ///< says the same in fewer words; used before anything is cut
 };
 
 /// All that a name can be made of, each in the words of the name's language.
 struct Facts {
-    std::optional<QString> date, vendor, amount, title, type, parties, sender, subject;
+    std::optional<QString> date, vendor, amount, title, type, plainType, parties, sender, subject;
     Shape shape = Shape::Titled;
 };
 
@@ -67,9 +69,9 @@ std::optional<QString> dateOf(const Reading &reading)
     return date ? std::optional(date->toString(Qt::ISODate)) : std::nullopt;
 }
 
-std::optional<QString> nameText(const std::optional<FoundName> &name)
+std::optional<QString> nameText(const Reading &reading, const std::optional<FoundName> &name)
 {
-    return name ? std::optional(name->text) : std::nullopt;
+    return name ? std::optional(mixedCaseForm(reading.words, *name)) : std::nullopt;
 }
 
 Facts factsOf(const Reading &reading, FilenameLanguage language)
@@ -79,13 +81,15 @@ Facts factsOf(const Reading &reading, FilenameLanguage language)
         = reading.type && !reading.source.isTable ? std::optional(reading.type->type) : std::nullopt;
     facts.shape = type ? shapeOf(*type) : Shape::Titled;
     facts.date = dateOf(reading);
-    facts.vendor = reading.source.sender ? reading.source.sender : nameText(findVendor(reading));
+    facts.vendor = reading.source.sender ? reading.source.sender : nameText(reading, findVendor(reading));
     facts.amount = totalAmount(reading.words, reading.amounts, reading.labels, type);
     facts.title = findTitle(reading);
-    if (type)
+    if (type) {
         facts.type = typeName(*reading.type, language);
+        facts.plainType = nameOf(*type, language);
+    }
     facts.parties = findParties(reading);
-    facts.sender = reading.source.sender ? reading.source.sender : nameText(findSender(reading));
+    facts.sender = reading.source.sender ? reading.source.sender : nameText(reading, findSender(reading));
     facts.subject = findSubject(reading);
     return facts;
 }
@@ -93,7 +97,14 @@ Facts factsOf(const Reading &reading, FilenameLanguage language)
 void append(std::vector<Piece> &pieces, const std::optional<QString> &text, bool mayBeShortened)
 {
     if (text && !text->isEmpty())
-        pieces.push_back({ *text, mayBeShortened });
+        pieces.push_back({ *text, mayBeShortened, {} });
+}
+
+/// "Lease of business premises" is "Lease" where there is no room for more.
+void appendType(std::vector<Piece> &pieces, const Facts &facts)
+{
+    if (facts.type)
+        pieces.push_back({ *facts.type, true, facts.plainType.value_or(QString()) });
 }
 
 std::vector<Piece> conventionalPieces(const Facts &facts)
@@ -107,7 +118,7 @@ std::vector<Piece> conventionalPieces(const Facts &facts)
         append(pieces, facts.amount, false);
         break;
     case Shape::Agreement:
-        append(pieces, facts.type, true);
+        appendType(pieces, facts);
         append(pieces, facts.parties ? facts.parties : facts.vendor, true);
         break;
     case Shape::Correspondence:
@@ -147,7 +158,7 @@ std::vector<Piece> templatePieces(const Facts &facts, const QList<TemplateField>
             append(pieces, titleForTemplate(facts), true);
             break;
         case TemplateField::DocumentType:
-            append(pieces, facts.type, true);
+            appendType(pieces, facts);
             break;
         case TemplateField::Parties:
             append(pieces, facts.parties, true);
@@ -196,6 +207,12 @@ QString fittingName(std::vector<Piece> pieces)
     std::erase_if(pieces, [](const Piece &piece) { return piece.text.isEmpty(); });
     constexpr qsizetype countedAtMost = 1000;
     qsizetype length = countCharacters(joined(pieces), countedAtMost);
+    for (Piece &piece : pieces) {
+        const bool isPlainer = !piece.plainer.isEmpty() && piece.plainer.size() < piece.text.size();
+        if (length > longestName && isPlainer)
+            piece.text = piece.plainer;
+        length = countCharacters(joined(pieces), countedAtMost);
+    }
     while (length > longestName) {
         Piece *longest = nullptr;
         for (Piece &piece : pieces) {

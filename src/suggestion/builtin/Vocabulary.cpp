@@ -14,7 +14,6 @@ Shape shapeOf(DocumentType type)
 {
     switch (type) {
     case DocumentType::Invoice:
-    case DocumentType::Bill:
     case DocumentType::CreditNote:
     case DocumentType::Receipt:
     case DocumentType::Quote:
@@ -73,8 +72,7 @@ QString nameOf(DocumentType type, FilenameLanguage language)
         if (words.type == type)
             return words.name;
     }
-    // Only English tells a bill from an invoice.
-    return type == DocumentType::Bill ? nameOf(DocumentType::Invoice, language) : QString();
+    return {};
 }
 
 static void insertWords(QSet<QString> &set, const QString &words)
@@ -131,6 +129,32 @@ bool isSentenceOpener(const QString &word)
 bool isOrganisation(const QString &word)
 {
     static const QSet<QString> words = wordsOfAll(&Vocabulary::organisations);
+    return words.contains(word);
+}
+
+bool isWeekday(const QString &word)
+{
+    static const QSet<QString> days = wordsOfAll(&Vocabulary::weekdays);
+    const QStringList ends = word.split(u'-', Qt::SkipEmptyParts);
+    return !ends.isEmpty()
+        && std::all_of(ends.begin(), ends.end(), [](const QString &day) { return days.contains(day); });
+}
+
+bool beginsDepartment(const QString &word)
+{
+    static const QSet<QString> words = wordsOfAll(&Vocabulary::departments);
+    return words.contains(word);
+}
+
+bool isAddressWord(const QString &word)
+{
+    static const QSet<QString> words = wordsOfAll(&Vocabulary::addressWords);
+    return words.contains(word);
+}
+
+bool isSince(const QString &word)
+{
+    static const QSet<QString> words { u"since"_s, u"sinds"_s, u"desde"_s, u"established"_s, u"est"_s, u"anno"_s };
     return words.contains(word);
 }
 

@@ -21,9 +21,12 @@ enum class Label {
     OtherAmount, ///< never the total: before tax, the tax, cash given
     Seller, ///< who issued the document
     Buyer, ///< who gets it
+    Attention, ///< a person of the buyer: the company stands before it
+    PayingDepartment, ///< of the buyer: the company stands before it
     PartyOne, ///< the first party of a contract by its role
     PartyTwo,
     Parties, ///< both parties follow: "between"
+    ActingFor, ///< a party follows behind the one who signs for it
     Subject,
     Author,
     Salutation,
@@ -34,7 +37,6 @@ enum class Label {
 /// What a document is. The order means nothing.
 enum class DocumentType {
     Invoice,
-    Bill,
     CreditNote,
     Receipt,
     Quote,
@@ -99,6 +101,9 @@ struct Vocabulary {
     QString streets; ///< words or endings that an address begins or ends with
     QString organisations; ///< nouns that a name of an organisation begins or ends with
     QString joiningWords; ///< between the two parties of a contract
+    QString weekdays; ///< with their abbreviations
+    QString departments; ///< words that begin a department's name, opening hours or a slogan behind an organisation's
+    QString addressWords; ///< what follows is where a party lives or is registered, not who it is
     QList<LabelWords> labels;
     QList<TypeWords> types;
 };
@@ -119,6 +124,12 @@ struct Vocabulary {
 [[nodiscard]] bool isConnector(const QString &foldedWord);
 [[nodiscard]] bool isSentenceOpener(const QString &foldedWord);
 [[nodiscard]] bool isOrganisation(const QString &foldedWord);
+/// "monday", "mon", "mon-sat"
+[[nodiscard]] bool isWeekday(const QString &foldedWord);
+[[nodiscard]] bool beginsDepartment(const QString &foldedWord);
+[[nodiscard]] bool isAddressWord(const QString &foldedWord);
+/// "since", behind which the year of an establishment stands
+[[nodiscard]] bool isSince(const QString &foldedWord);
 [[nodiscard]] bool joinsParties(const QString &foldedWord, FilenameLanguage language);
 /// A word that begins an address ("calle") or ends a street's name ("dorpsstraat", "street").
 [[nodiscard]] bool beginsStreet(const QString &foldedWord);

@@ -32,6 +32,9 @@ const Vocabulary &dutchVocabulary()
         u"|bedrijf|schildersbedrijf|loodgietersbedrijf|bouwbedrijf|drukkerij|slagerij|kapsalon|rechtbank|tandarts"
         u"|tandartspraktijk|notariskantoor|advocatenkantoor|accountantskantoor|kantoor|verzekeringen|energie"_s,
         u"en|anderzijds"_s,
+        u"maandag|ma|dinsdag|di|woensdag|wo|donderdag|do|vrijdag|vr|zaterdag|za|zondag|zo"_s,
+        u"afdeling|polikliniek|faculteit|openingstijden|geopend|gesloten|secretariaat"_s,
+        u"gevestigd|wonende|woonachtig|kantoorhoudende|adres|ingeschreven|geboren"_s,
         {
             { DocumentDate,
                 u"factuurdatum|notadatum|datum factuur|datum nota|offertedatum|datum offerte|datum afschrift"
@@ -89,16 +92,19 @@ const Vocabulary &dutchVocabulary()
                 u"|bedankt voor uw bezoek aan|bedankt voor uw aankoop bij|welkom bij|uitgegeven door|verstrekt door"_s },
             { Buyer,
                 u"koper|klant|klantnaam|aan|aan:|aan de|factuur aan|factuuradres|afleveradres|bezorgadres|leveradres"
-                u"|t.a.v.|tav|ter attentie van|debiteur|voor:|offerte voor|opdrachtgever:|gast|reiziger|patiënt|patient"
+                u"|debiteur|voor:|offerte voor|opdrachtgever:|gast|reiziger|patiënt|patient"
                 u"|ontvanger|geadresseerde|ten name van|tnv|t.n.v|betreft perceel van|passagier|klantgegevens|naam "
                 u"klant|relatie:|contactpersoon|afnemer"_s },
+            { Attention, u"t.a.v.|tav|ter attentie van"_s },
+            { PayingDepartment, u"crediteurenadministratie|crediteuren|afdeling inkoop|inkoopadministratie"_s },
+            { ActingFor, u"namens|handelend namens|optredend namens"_s },
             { PartyOne,
                 u"verhuurder|werkgever|verkoper:|geldgever|uitlener|verzekeraar|opdrachtgever:|licentiegever"
                 u"|volmachtgever|partij a|partij 1|schuldeiser|uitlenende partij|verstrekkende partij"_s },
             { PartyTwo,
                 u"huurder|werknemer|koper:|geldnemer|lener|verzekeringnemer|verzekerde|opdrachtnemer:|licentienemer"
                 u"|gevolmachtigde|partij b|partij 2|schuldenaar|medewerker|naam werknemer|ontvangende partij"_s },
-            { Label::Parties, u"tussen|ondergetekenden|de ondergetekenden|partijen:|de partijen:"_s },
+            { Label::Parties, u"tussen|partijen 1|ondergetekenden|de ondergetekenden|partijen:|de partijen:"_s },
             { Subject, u"onderwerp|betreft|inzake|titel:|betr:|ons onderwerp"_s },
             { Author, u"auteur|auteurs|door:|geschreven door|opgesteld door"_s },
             { Salutation, u"geachte|beste|lieve|hallo|dag|l.s.|weledelgeboren"_s },
@@ -146,9 +152,13 @@ const Vocabulary &dutchVocabulary()
             { TaxAssessment, u"Aanslag"_s,
                 u"aanslag|aanslagbiljet|belastingaanslag|voorlopige aanslag|gecombineerde aanslag|^aanslagnummer"
                 u"|definitieve aanslag|naheffingsaanslag"_s },
-            { RentalAgreement, u"Huurovereenkomst"_s, u"huurovereenkomst|huurcontract"_s },
+            { RentalAgreement, u"Huurovereenkomst"_s,
+                u"huurovereenkomst|huurcontract|huurovereenkomst woonruimte|huurovereenkomst "
+                u"bedrijfsruimte|huurovereenkomst "
+                u"kantoorruimte|huurovereenkomst winkelruimte"_s },
             { EmploymentContract, u"Arbeidsovereenkomst"_s,
-                u"arbeidsovereenkomst|arbeidscontract|stageovereenkomst|uitzendovereenkomst|detacheringsovereenkomst"_s },
+                u"arbeidsovereenkomst|arbeidsovereenkomst voor bepaalde tijd|arbeidsovereenkomst voor onbepaalde tijd"
+                u"|arbeidscontract|stageovereenkomst|uitzendovereenkomst|detacheringsovereenkomst"_s },
             { NonDisclosureAgreement, u"Geheimhoudingsovereenkomst"_s,
                 u"geheimhoudingsovereenkomst|geheimhoudingsverklaring|nda|vertrouwelijkheidsovereenkomst"_s },
             { PurchaseAgreement, u"Koopovereenkomst"_s, u"koopovereenkomst|koopcontract|voorlopig koopcontract"_s },
@@ -168,7 +178,7 @@ const Vocabulary &dutchVocabulary()
             { Email, u"E-mail"_s, {} },
             { Report, u"Rapport"_s,
                 u"rapport~|onderzoeksrapport|jaarverslag|verslag~|keuringsrapport|inspectierapport|adviesrapport"
-                u"|eindrapport|voortgangsrapport|bouwkundig rapport|stageverslag|rapportage~|schoolrapport"_s },
+                u"|eindrapport|eindverslag|tussenrapport|tussenverslag|deelrapport|voortgangsrapport|bouwkundig rapport|stageverslag|rapportage~|schoolrapport"_s },
             { Minutes, u"Notulen"_s, u"notulen|vergaderverslag|notulen vergadering|besluitenlijst"_s },
             { Agenda, u"Agenda"_s, u"agenda~"_s },
             { Article, u"Artikel"_s, u"nieuwsbrief|persbericht"_s },

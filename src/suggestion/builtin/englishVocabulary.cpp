@@ -27,6 +27,9 @@ const Vocabulary &englishVocabulary()
         u"|church|agency|department|ministry|office|library|museum|hotel|restaurant|cafe|bakery|pharmacy|practice"
         u"|surgery|club|union|authority|insurance|energy|water|group|studio|services|solutions|market|garage"_s,
         u"and"_s,
+        u"monday|mon|tuesday|tue|tues|wednesday|wed|thursday|thu|thur|thurs|friday|fri|saturday|sat|sunday|sun"_s,
+        u"open|opening|closed|accounts|faculty|headteacher"_s,
+        u"address|registered|residing|whose|office|business|at"_s,
         {
             { DocumentDate,
                 u"invoice date|date of invoice|date issued|issue date|date of issue|issued on|issued|bill date|billing "
@@ -35,7 +38,8 @@ const Vocabulary &englishVocabulary()
                 u"on|posted on|held on|meeting date|date of meeting|dated|signed on|signed in|date signed|date of "
                 u"signature|signature date|credit note date|typed|transaction date|tax point|executed on|made on"
                 u"|entered into on|entered into as of|as of|date prepared|prepared on|award date|date of award|date "
-                u"printed|invoiced on|tax date|made this|dated this|date of agreement|agreement date|date and time"
+                u"printed|invoiced on|tax date|made this|made the|made on the|dated the|dated this|date of "
+                u"agreement|agreement date|date and time"
                 u"|ordered on|order placed|date paid|paid on|date of visit|letter dated|awarded on|completed on|tested "
                 u"on|inspection date|date of inspection|date of report|assessment date|notice date|date of notice"_s },
             { PlainDate, u"date|on the date of|on this"_s },
@@ -86,9 +90,13 @@ const Vocabulary &englishVocabulary()
                 u"|thank you for visiting|welcome to|account holder:|beneficiary:|prepared by"_s },
             { Buyer,
                 u"bill to|billed to|invoice to|sold to|ship to|deliver to|customer|client|customer name|client name"
-                u"|to:|for:|attn|attention|attention of|fao|recipient|prepared for|quote for|quotation for|guest|guest "
+                u"|to:|for:|recipient|prepared for|quote for|quotation for|guest|guest "
                 u"name|passenger|passenger name|account name|patient|member|invoice for|quote to|payer|delivery "
                 u"address|billing address|invoice address|customer details"_s },
+            { Attention, u"attn|attention|attention of|for the attention of|fao"_s },
+            { PayingDepartment,
+                u"accounts payable|purchase ledger|bought ledger|accounts department|purchasing department"_s },
+            { ActingFor, u"on behalf of|for and on behalf of|acting for|representing"_s },
             { PartyOne,
                 u"landlord|employer|lessor|seller:|licensor|lender|disclosing party|insurer|contractor:|service "
                 u"provider:|party a|first party|principal|owner|company:|consultant:|supplier:"_s },
@@ -96,7 +104,8 @@ const Vocabulary &englishVocabulary()
                 u"tenant|employee|lessee|buyer:|licensee|borrower|receiving party|policyholder|policy holder|insured"
                 u"|named insured|party b|second party|attorney:|purchaser|client:|customer:|donee|the insured"
                 u"|employee name"_s },
-            { Label::Parties, u"between|by and between|made between|entered into between|parties:|the parties:"_s },
+            { Label::Parties,
+                u"between|parties 1|the parties 1|by and between|made between|entered into between|parties:|the parties:"_s },
             { Subject, u"subject|re:|regarding:|concerning:|subject line|topic:|title:|subject:|in re:"_s },
             { Author, u"author|by:|written by|prepared by:|authors"_s },
             { Salutation, u"dear|dear sir|dear madam|to whom it may concern|hi|hello"_s },
@@ -127,10 +136,9 @@ const Vocabulary &englishVocabulary()
         {
             { Invoice, u"Invoice"_s,
                 u"invoice|tax invoice|vat invoice|sales invoice|^invoice number|^invoice no|^invoice date|proforma "
-                u"invoice|pro forma invoice"_s },
-            { Bill, u"Bill"_s,
-                u"bill~|electricity bill|water bill|gas bill|phone bill|energy bill|utility bill|your bill|^billing "
-                u"period|^bill date|broadband bill|council tax bill|telephone bill"_s },
+                u"invoice|pro forma invoice|bill~|electricity bill|water bill|gas bill|phone bill|energy bill|utility "
+                u"bill"
+                u"|your bill|^billing period|^bill date|broadband bill|council tax bill|telephone bill"_s },
             { CreditNote, u"Credit Note"_s, u"credit note|credit memo|credit invoice"_s },
             { Receipt, u"Receipt"_s,
                 u"receipt|sales receipt|card receipt|cash receipt|payment receipt|till receipt|^guest check|^thank you "

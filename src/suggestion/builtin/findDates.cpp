@@ -118,15 +118,19 @@ enum Likelihood {
     LeastTaken = 30,
     Lesser = 35,
     Loose = 50,
+    InSentence = 74, // behind a label in small letters: "signed on", but also "the law published on"
     BehindPlace = 75,
     Plain = 80,
     Own = 100
 };
 
-int likelihood(Label label)
+int likelihood(const Words &words, Label label, const Place &place)
 {
+    const Word &first = words[place.first];
+    const bool isInSentence = !first.isCapitalised && !first.isNewPart && place.first > 0
+        && !words[place.second - 1].hasColon && !first.hasDigit;
     if (label == Label::DocumentDate)
-        return Own;
+        return isInSentence ? InSentence : Own;
     if (label == Label::PlainDate)
         return Plain;
     if (label == Label::LesserDate)
@@ -146,17 +150,25 @@ bool endsRange(const Words &words, const FoundDate &before, const FoundDate &dat
     return gap <= 4 && connectors.contains(next);
 }
 
+/// "Local news Thursday, 13 February 2025": the line under a newspaper's name.
+bool isDateline(const Words &words, int start)
+{
+    constexpr int latest = 20;
+    return start < latest && start > 0 && words[start - 1].isCapitalised && isWeekday(words[start - 1].folded);
+}
+
 int unlabelledLikelihood(const Words &words, int start)
 {
     if (start == 0)
         return Loose;
-    static const QSet<QString> weekdays { u"monday"_s, u"tuesday"_s, u"wednesday"_s, u"thursday"_s, u"friday"_s,
-        u"saturday"_s, u"sunday"_s, u"maandag"_s, u"dinsdag"_s, u"woensdag"_s, u"donderdag"_s, u"vrijdag"_s,
-        u"zaterdag"_s, u"zondag"_s, u"lunes"_s, u"martes"_s, u"miercoles"_s, u"jueves"_s, u"viernes"_s, u"sabado"_s,
-        u"domingo"_s };
     int previous = start - 1;
-    if (previous > 0 && weekdays.contains(words[previous].folded))
+    if (previous > 0 && isWeekday(words[previous].folded)) {
         --previous;
+        const Word &ahead = words[previous];
+        const bool isSpokenOf = isConnector(ahead.folded) || isSentenceOpener(ahead.folded);
+        if (isDateline(words, start) && !isSpokenOf && !ahead.hasComma)
+            return Loose;
+    }
     const Word &before = words[previous];
     if (before.hasComma && before.isCapitalised && !before.hasDigit)
         return BehindPlace;
@@ -164,7 +176,7 @@ int unlabelledLikelihood(const Words &words, int start)
     if (before.folded == "a"_L1 && previous > 0 && words[previous - 1].hasComma)
         return BehindPlace;
     const bool isInSentence = !before.isCapitalised && !before.hasDigit && !before.endsSentence && !before.hasColon
-        && !before.hasComma && !words[start].isNewPart && !words[start].isOpened;
+        && !before.isClosed && !before.hasComma && !words[start].isNewPart && !words[start].isOpened;
     return isInSentence ? Mentioned : Loose;
 }
 
@@ -203,7 +215,8 @@ std::optional<QDate> documentDate(
     int previousLikelihood = Never;
     for (size_t index = 0; index < dates.size(); ++index) {
         const FoundDate &date = dates[index];
-        int current = hasLabel(index) ? likelihood(labelKinds[static_cast<size_t>(owners[index])])
+        int current = hasLabel(index) ? likelihood(words, labelKinds[static_cast<size_t>(owners[index])],
+                          labelPlaces[static_cast<size_t>(owners[index])])
                                       : unlabelledLikelihood(words, date.start);
         if (!hasLabel(index) && index > 0 && endsRange(words, dates[index - 1], date))
             current = std::min<int>(previousLikelihood, Mentioned);

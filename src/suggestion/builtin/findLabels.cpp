@@ -54,7 +54,12 @@ bool holdsAt(const Words &words, int start, int end, const KnownLabel &known, Fi
     const bool isForeign = preferred != FilenameLanguage::Auto && known.language != preferred;
     if (isForeign && end - start == 1 && !hasColon && !isAmountLabel(known.label) && known.label != Label::PlainDate)
         return false;
-    if (isAmountLabel(known.label) || isDateLabel(known.label) || known.label == Label::Parties)
+    // "Iván Prado Mesa, vecino de": a word of a name, not the label of a table in a restaurant.
+    const bool isListed = words[end - 1].hasComma && end - start == 1;
+    if (known.label == Label::Field && isListed && !hasColon)
+        return false;
+    if (isAmountLabel(known.label) || isDateLabel(known.label) || known.label == Label::Parties
+        || known.label == Label::ActingFor)
         return true;
     return hasColon || first.isCapitalised || first.isNewPart || start == 0;
 }

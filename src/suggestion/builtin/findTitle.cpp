@@ -18,6 +18,13 @@ bool isSmallWord(const Word &word)
     return isConnector(word.folded) || isSentenceOpener(word.folded) || word.hasDigit;
 }
 
+/// A paper's head: an organisation's name, its department's below.
+bool isLetterhead(const Reading &reading, int start)
+{
+    const QString &word = reading.words[start].folded;
+    return isOrganisation(word) || beginsDepartment(word);
+}
+
 /// "Walk across any roof" behind a title whose words all begin with a capital letter.
 bool beginsRunningText(const Reading &reading, int start, int index)
 {
@@ -26,7 +33,8 @@ bool beginsRunningText(const Reading &reading, int start, int index)
         return false;
     const bool goesOnSmall = !words[index + 1].isCapitalised && !words[index + 1].hasDigit
         && !words[index + 2].isCapitalised && !words[index + 2].hasDigit && !words[index].hasComma;
-    if (!goesOnSmall || isConnector(words[index + 1].folded))
+    const bool isBelowLetterhead = isLetterhead(reading, start) && !isSmallWord(words[index + 2]);
+    if (!goesOnSmall || (isConnector(words[index + 1].folded) && !isBelowLetterhead))
         return false;
     for (int at = start; at < index; ++at) {
         if (!words[at].isCapitalised && !isSmallWord(words[at]))
@@ -68,6 +76,34 @@ bool isByline(const Reading &reading, int index)
         && words[index + 1].isCapitalised && words[index + 2].isCapitalised;
 }
 
+bool isSmallContentWord(const Word &word) { return !word.isCapitalised && !isSmallWord(word); }
+
+/// "Plan voor de tuin Losse aantekeningen na": a heading in sentence case ends where a word with a capital letter goes
+/// on in small ones. Behind "van" or "in" the capital belongs to a name.
+bool beginsNextSentence(const Reading &reading, int start, int index)
+{
+    const Words &words = reading.words;
+    constexpr int shortestHeading = 4;
+    if (!words[index].isCapitalised || words[index].isUpperCase || index + 2 >= words.count()
+        || index - start < shortestHeading)
+        return false;
+    return isSmallContentWord(words[index - 1]) && isSmallContentWord(words[index + 1])
+        && !words[index + 2].isCapitalised && !words[index].hasComma && !words[index - 1].hasComma;
+}
+
+/// "Evaluatie van de proef Eindrapport Versie 2": in languages that write a heading's words small, a type's word with a
+/// capital letter begins the line below.
+bool isTypeBelowTitle(const Reading &reading, int start, int index)
+{
+    const TypeMark *type = reading.typeAt(index);
+    if (reading.language == FilenameLanguage::English || !type || type->strength == TypeStrength::Hint)
+        return false;
+    const Words &words = reading.words;
+    const bool isInHeading = words[index].isCapitalised && index - start > 1 && !isConnector(words[index - 1].folded);
+    const bool hasSmallWords = std::any_of(&words[start], &words[index], isSmallContentWord);
+    return isInHeading && hasSmallWords;
+}
+
 /// Whether another piece of the document begins at this word of a heading that began at `start`.
 bool isBorder(const Reading &reading, int start, int index)
 {
@@ -86,6 +122,10 @@ bool isBorder(const Reading &reading, int start, int index)
         return true;
     const bool isOpener = isSentenceOpener(word.folded) && word.isCapitalised && index - start > 1
         && index + 1 < words.count() && !words[index + 1].isCapitalised && !words[index + 1].hasDigit;
+    if (isLetterhead(reading, start) && beginsDepartment(word.folded) && word.isCapitalised)
+        return true;
+    if (beginsNextSentence(reading, start, index) || isTypeBelowTitle(reading, start, index))
+        return true;
     return isOpener || beginsRunningText(reading, start, index);
 }
 
@@ -107,38 +147,63 @@ QString readTitle(const Reading &reading, int start)
     return reading.words.joined(start, end);
 }
 
-/// A Dutch or Spanish heading is in lower case but for its first word: a capital behind a name begins it.
-bool beginsHeadingBehindName(const Reading &reading, int mark)
+/// A Dutch or Spanish heading is in lower case but for its first word: a capital behind a name begins it. An English
+/// one begins with the type's word when "of" follows: "Wexcombe Society Minutes of the Annual Meeting".
+bool beginsHeadingBehindName(const Reading &reading, const TypeMark &mark)
 {
-    if (reading.language == FilenameLanguage::English || !reading.words[mark].isCapitalised)
+    const Words &words = reading.words;
+    static const QStringList openings { u"of"_s, u"on"_s };
+    const bool endsInOf = openings.contains(words[mark.end - 1].folded);
+    const bool goesOn = endsInOf || (mark.end < words.count() && openings.contains(words[mark.end].folded));
+    if (!words[mark.start].isCapitalised || (reading.language == FilenameLanguage::English && !goesOn))
         return false;
-    for (int index = 0; index < mark; ++index) {
-        if (!reading.words[index].isCapitalised && !isConnector(reading.words[index].folded))
+    for (int index = 0; index < mark.start; ++index) {
+        if (!words[index].isCapitalised && !isConnector(words[index].folded))
             return false;
     }
-    return mark > 1;
+    return mark.start > 1 && !isConnector(words[mark.start - 1].folded);
 }
 
-/// Where the piece of the document begins in which this word stands.
-int startOfPiece(const Reading &reading, int mark)
+/// Where the piece of the document begins in which this word stands, or behind which it stands as a line of its own.
+int startOfPiece(const Reading &reading, const TypeMark &mark)
 {
     if (beginsHeadingBehindName(reading, mark))
-        return mark;
+        return mark.start;
     int start = 0;
-    while (start < mark) {
+    while (start < mark.start) {
         const int end = endOfTitle(reading, start);
-        if (end > mark)
+        const bool isTitleAboveType = end == mark.start && isTypeBelowTitle(reading, start, end);
+        if (end > mark.start || isTitleAboveType)
             return start;
         start = end;
     }
-    return mark;
+    return mark.start;
+}
+
+/// A newspaper's name, the section and the day stand above its headline.
+int endOfMasthead(const Reading &reading)
+{
+    const Words &words = reading.words;
+    for (const FoundDate &date : reading.dates) {
+        constexpr int latest = 15;
+        if (date.start == 0 || date.start > latest)
+            break;
+        const Word &weekday = words[date.start - 1];
+        const bool isDateline = isWeekday(weekday.folded) && weekday.isCapitalised && date.start > 1;
+        bool isInSentence = false;
+        for (int index = 0; index < date.start; ++index)
+            isInSentence = isInSentence || words[index].endsSentence || reading.labelAt(index);
+        if (isDateline && !isInSentence)
+            return date.end;
+    }
+    return 0;
 }
 
 /// The words at the top, behind labels and figures.
 std::optional<int> firstWords(const Reading &reading)
 {
     const Words &words = reading.words;
-    for (int index = 0; index < words.count(); ++index) {
+    for (int index = endOfMasthead(reading); index < words.count(); ++index) {
         const Word &word = words[index];
         const bool isText = !word.hasDigit && !reading.isIdentifierAt(index) && word.folded.size() > 1;
         const bool isFollowedByText = index + 1 < words.count() && !words[index + 1].hasDigit;
@@ -184,7 +249,7 @@ std::optional<QString> findTitle(const Reading &reading)
     constexpr int latestHeading = 45;
     const auto &mark = reading.type ? reading.type->mark : std::nullopt;
     if (mark && mark->start < latestHeading && reading.words[mark->start].isCapitalised) {
-        QString title = readTitle(reading, startOfPiece(reading, mark->start));
+        QString title = readTitle(reading, startOfPiece(reading, *mark));
         const QString person = mark->type == DocumentType::CurriculumVitae ? nameOfPerson(reading) : QString();
         if (!person.isEmpty() && !title.contains(person))
             title += u' ' + person;

@@ -140,10 +140,15 @@ static QString usualCurrency(const Words &words, const std::vector<FoundAmount> 
         return isoCode(match.capturedView(0), words.text());
     // Taxes and tax numbers that only countries with the euro, or only Mexico, know.
     static const QRegularExpression mexican(uR"(\b(?:RFC|CFDI)\b)"_s);
-    static const QRegularExpression euro(uR"(\b(?:btw|kvk|nif|cif)\b)"_s, QRegularExpression::CaseInsensitiveOption);
+    static const QRegularExpression euro(
+        uR"(\b(?:btw|kvk|nif|cif|bsn|irpf|loonheffing\w*)\b)"_s, QRegularExpression::CaseInsensitiveOption);
     if (mexican.match(words.text()).hasMatch())
         return u"MXN"_s;
-    return euro.match(words.text()).hasMatch() ? u"EUR"_s : QString();
+    // The account's country (ISO 13616); of these all have the euro.
+    static const QRegularExpression euroAccount(
+        uR"(\b(?:AT|BE|DE|ES|FI|FR|GR|IE|IT|LU|NL|PT)\d\d ?(?:[A-Z]{4}|\d{4}) ?\d{4})"_s);
+    const bool isEuro = euro.match(words.text()).hasMatch() || euroAccount.match(words.text()).hasMatch();
+    return isEuro ? u"EUR"_s : QString();
 }
 
 static Label wantedLabel(std::optional<DocumentType> type)

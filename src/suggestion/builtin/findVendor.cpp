@@ -33,10 +33,11 @@ bool isAddressed(const Reading &reading, int start)
     for (const LabelMark &mark : reading.labels) {
         if (mark.end > start)
             break;
-        if (isOf(mark.label, { Label::Buyer, Label::PartyTwo, Label::Seller, Label::PartyOne }))
+        if (isOf(mark.label, { Label::Buyer, Label::Attention, Label::PartyTwo, Label::Seller, Label::PartyOne }))
             nearest = &mark;
     }
-    return nearest && isOf(nearest->label, { Label::Buyer, Label::PartyTwo }) && start - nearest->end < longestAddress;
+    return nearest && isOf(nearest->label, { Label::Buyer, Label::Attention, Label::PartyTwo })
+        && start - nearest->end < longestAddress;
 }
 
 /// The first word behind headings, their numbers and labelled figures at the top of a document.
@@ -51,7 +52,9 @@ int letterheadStart(const Reading &reading)
         static const QStringList numberWords { u"no"_s, u"nr"_s, u"n"_s, u"num"_s, u"ref"_s };
         if (type)
             index = type->end;
-        else if (label && isOf(label->label, { Label::Buyer, Label::PartyTwo, Label::Salutation, Label::Subject }))
+        else if (label
+            && isOf(
+                label->label, { Label::Buyer, Label::Attention, Label::PartyTwo, Label::Salutation, Label::Subject }))
             return words.count();
         else if (label)
             index = label->end;
@@ -125,6 +128,88 @@ std::optional<FoundName> nameBeforeLegalForm(const Reading &reading, int form)
 
 } // namespace
 
+namespace {
+
+bool isAt(const Words &words, int position, int start, int end)
+{
+    if (position + end - start > words.count())
+        return false;
+    for (int offset = 0; offset < end - start; ++offset) {
+        if (words[position + offset].folded != words[start + offset].folded)
+            return false;
+    }
+    return true;
+}
+
+/// Whether words [start, end) stand once more in the document, as all of a name there.
+bool returns(const Words &words, int start, int end)
+{
+    const auto isApart = [&words](int index) {
+        return index == 0 || index == words.count() || !words[index - 1].isCapitalised || words[index].isNewPart
+            || words[index - 1].endsSentence || words[index - 1].hasComma || words[index - 1].hasDigit;
+    };
+    const int length = end - start;
+    for (int position = 0; position + length <= words.count(); ++position) {
+        const bool isElsewhere = position >= end || position + length <= start;
+        if (!isElsewhere || !words[position].isCapitalised || !isApart(position))
+            continue;
+        const int behind = position + length;
+        const bool ends = isApart(behind) || !words[behind].isCapitalised;
+        if (ends && isAt(words, position, start, end))
+            return true;
+    }
+    return false;
+}
+
+/// A name that returns is as long as both places have in common: at the other one stands no slogan behind it.
+FoundName asItReturns(const Reading &reading, FoundName name)
+{
+    const Words &words = reading.words;
+    constexpr int shortest = 2;
+    for (int end = name.end; end >= name.start + shortest && !name.hasLegalForm; --end) {
+        if (isConnector(words[end - 1].folded) || !returns(words, name.start, end))
+            continue;
+        name.end = end;
+        name.text = words.joined(name.start, end);
+        break;
+    }
+    return name;
+}
+
+/// "Acme Ltd, Accounts Payable, Attn. Ms Adams": the paper begins with the address of the one who gets it.
+bool isRecipient(const Reading &reading, const FoundName &name)
+{
+    constexpr int farthest = 10;
+    for (const LabelMark &mark : reading.labels) {
+        if (mark.start < name.end)
+            continue;
+        if (mark.start > name.end + farthest)
+            return false;
+        if (isOf(mark.label, { Label::Attention, Label::PayingDepartment })) {
+            const auto isForm = [](const Word &word) { return isLegalForm(word.folded) && word.isCapitalised; };
+            return std::none_of(&reading.words[name.end], &reading.words[mark.start], isForm);
+        }
+    }
+    return false;
+}
+
+/// Telephone, tax number or account behind a name: who asks for money says how to reach and to pay him.
+bool isFollowedByRegistration(const Reading &reading, const FoundName &name)
+{
+    constexpr int farthest = 14;
+    for (const LabelMark &mark : reading.labels) {
+        if (mark.start < name.end || mark.start > name.end + farthest)
+            continue;
+        static const QStringList registrations { u"tel"_s, u"telephone"_s, u"phone"_s, u"tfno"_s, u"telefono"_s,
+            u"telefoon"_s, u"vat"_s, u"kvk"_s, u"btw"_s, u"btw-id"_s, u"cif"_s, u"nif"_s, u"iban"_s };
+        if (registrations.contains(reading.words[mark.start].folded))
+            return true;
+    }
+    return false;
+}
+
+} // namespace
+
 std::optional<FoundName> findVendor(const Reading &reading)
 {
     const Words &words = reading.words;
@@ -141,7 +226,7 @@ std::optional<FoundName> findVendor(const Reading &reading)
         // What begins a report or a recipe is its title.
         const bool mayBeTitle = !reading.type || shapeOf(reading.type->type) == Shape::Titled;
         const bool isCompany = name && (name->hasLegalForm || isOrganisation(words[name->start].folded));
-        if (!mayBeTitle || isCompany)
+        if (name && !isRecipient(reading, *name) && (!mayBeTitle || isCompany))
             candidates.offer(name, top < 12 ? 75 : 45);
     }
     for (int index = 1; index < words.count(); ++index) {
@@ -150,15 +235,17 @@ std::optional<FoundName> findVendor(const Reading &reading)
         if (!isForm)
             continue;
         const auto name = nameBeforeLegalForm(reading, index);
-        if (name && !isAddressed(reading, name->start))
-            candidates.offer(name, 50.0 - 10.0 * index / words.count());
+        if (!name || isAddressed(reading, name->start) || isRecipient(reading, *name))
+            continue;
+        const double evidence = isFollowedByRegistration(reading, *name) ? 10 : 0;
+        candidates.offer(name, evidence + 50.0 - 10.0 * index / words.count());
     }
     for (int index = 0; index < words.count(); ++index) {
         const bool isNoun = isOrganisation(words[index].folded) && words[index].isCapitalised;
         if (isNoun && reading.language != FilenameLanguage::English && !isAddressed(reading, index))
             candidates.offer(readName(reading, index), 40.0 - 10.0 * index / words.count());
     }
-    return candidates.best;
+    return candidates.best ? std::optional(asItReturns(reading, *candidates.best)) : std::nullopt;
 }
 
 std::optional<FoundName> findSender(const Reading &reading)
@@ -176,7 +263,7 @@ std::optional<FoundName> findSender(const Reading &reading)
         else if (mark.label == Label::Seller && words[mark.end - 1].hasColon)
             candidates.offer(readName(reading, valueAfter(reading, mark)), 90);
     }
-    return candidates.best;
+    return candidates.best ? std::optional(asItReturns(reading, *candidates.best)) : std::nullopt;
 }
 
 QString withoutLegalForm(const QString &name)

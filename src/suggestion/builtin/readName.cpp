@@ -90,6 +90,54 @@ bool changesCase(const Reading &reading, int start, int index)
     return word.isUpperCase && word.folded.size() > longestAcronym && !words[index - 1].isUpperCase;
 }
 
+/// "D." is "Don" in Spanish and an initial everywhere else.
+bool isFormOfAddressAt(const Reading &reading, int index)
+{
+    const Word &word = reading.words[index];
+    const bool isInitial = word.folded.size() == 1 && reading.language != FilenameLanguage::Spanish;
+    return isFormOfAddress(word.folded) && !word.hasComma && !isInitial;
+}
+
+/// "Mon-Sat 8.30-5.30", "Polikliniek Cardiologie": unless a legal form shows that the word is part of the name.
+bool beginsDepartmentOrHours(const Reading &reading, int index)
+{
+    const Words &words = reading.words;
+    const Word &word = words[index];
+    const bool isFollowedByFigures = index + 1 < words.count() && words[index + 1].hasDigit;
+    const bool isHours = isWeekday(word.folded) && (word.folded.contains(u'-') || isFollowedByFigures);
+    if (!word.isCapitalised || (!isHours && !beginsDepartment(word.folded)))
+        return false;
+    constexpr int farthestForm = 3;
+    for (int next = index + 1; next < std::min(words.count(), index + 1 + farthestForm); ++next) {
+        if (isLegalForm(words[next].folded) && words[next].isCapitalised)
+            return false;
+        if (words[next].hasComma || words[next].endsSentence)
+            break;
+    }
+    return true;
+}
+
+/// "Powering homes since 2009", "Bakers since 1931", "Binnen- en buitenschilderwerk": what stands below a name on
+/// paper with a printed head. A gerund or a trade in small letters behind a name that is complete.
+bool beginsSlogan(const Reading &reading, int start, int index)
+{
+    const Words &words = reading.words;
+    const Word &word = words[index];
+    if (!word.isCapitalised || index + 2 >= words.count())
+        return false;
+    const Word &next = words[index + 1];
+    if (isSince(next.folded) && words[index + 2].hasDigit)
+        return true;
+    const bool isSuspended = words.text().at(word.end) == u'-' && isConnector(next.folded);
+    if (isSuspended)
+        return true;
+    const bool isSmall = !next.isCapitalised && !next.hasDigit && !word.hasComma && !next.isNewPart;
+    const bool isGerund
+        = reading.language == FilenameLanguage::English && word.folded.size() > 5 && word.folded.endsWith("ing"_L1);
+    const bool isComplete = index - start > 1 || isOrganisation(words[index - 1].folded);
+    return isGerund && isSmall && isComplete && !words[index + 2].isCapitalised;
+}
+
 bool endsBefore(const Reading &reading, int start, int index)
 {
     const Word &word = reading.words[index];
@@ -105,6 +153,8 @@ bool endsBefore(const Reading &reading, int start, int index)
     const TypeMark *type = reading.typeAt(index);
     const bool isHeading = type && type->strength != TypeStrength::Hint && word.isCapitalised;
     if (isHeading || word.hasColon || reading.isDateAt(index))
+        return true;
+    if (beginsDepartmentOrHours(reading, index) || beginsSlogan(reading, start, index))
         return true;
     return beginsStreet(word.folded) || startsSentence(reading, index) || changesCase(reading, start, index);
 }
@@ -162,7 +212,7 @@ int withoutDepartment(const Reading &reading, int start, int end)
 std::optional<FoundName> readName(const Reading &reading, int start)
 {
     const Words &words = reading.words;
-    while (start < words.count() && isFormOfAddress(words[start].folded) && !words[start].hasComma)
+    while (start < words.count() && isFormOfAddressAt(reading, start))
         ++start;
     if (start >= words.count() || !words[start].isCapitalised || words[start].hasDigit)
         return {};

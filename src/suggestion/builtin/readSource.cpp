@@ -3,6 +3,7 @@
 #include "suggestion/builtin/readSource.h"
 
 #include "suggestion/builtin/readEmail.h"
+#include "suggestion/builtin/Vocabulary.h"
 #include <algorithm>
 #include <QHash>
 #include <QRegularExpression>
@@ -253,6 +254,43 @@ Source readSubtitles(const QString &text)
     return source;
 }
 
+/// What a spaced heading looks like without its spaces, for every type's word: "factuur" to "FACTUUR", "taxinvoice" to
+/// "TAX INVOICE".
+const QHash<QString, QString> &headingsBySqueezedForm()
+{
+    static const QHash<QString, QString> headings = [] {
+        QHash<QString, QString> filled;
+        for (const Vocabulary *each : vocabularies()) {
+            for (const TypeWords &type : each->types) {
+                const QStringList phrases = QString(type.phrases).remove(u'~').remove(u'^').split(u'|');
+                for (const QString &phrase : phrases)
+                    filled.insert(QString(phrase).remove(u' '), phrase.toUpper());
+            }
+        }
+        return filled;
+    }();
+    return headings;
+}
+
+/// "F A C T U U R": printers space a heading's letters. Only words for types are put together, since initials and
+/// answers to choose from look the same.
+QString withoutLetterSpacing(const QString &text)
+{
+    static const QRegularExpression spaced = expression(uR"((?<!\S)\p{L}(?: \p{L}){3,}(?!\S))"_s);
+    QString result = text;
+    QRegularExpressionMatchIterator matches = spaced.globalMatch(text);
+    qsizetype removed = 0;
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        const QString heading = headingsBySqueezedForm().value(match.captured().remove(u' ').toLower());
+        if (heading.isEmpty())
+            continue;
+        result.replace(match.capturedStart() - removed, match.capturedLength(), heading);
+        removed += match.capturedLength() - heading.size();
+    }
+    return result;
+}
+
 } // namespace
 
 Source readSource(const QString &text)
@@ -278,7 +316,7 @@ Source readSource(const QString &text)
     if (const auto separator = columnSeparator(text))
         return readTable(text, *separator);
     Source source;
-    source.text = text;
+    source.text = withoutLetterSpacing(text);
     return source;
 }
 

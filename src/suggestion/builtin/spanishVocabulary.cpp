@@ -30,6 +30,9 @@ const Vocabulary &spanishVocabulary()
         u"|talleres|panadería|ferretería|librería|supermercados|supermercado|agencia|gestoría|notaría|juzgado"
         u"|centro|escuela|museo|cafetería|construcciones|comercial|seguros|escuela|academia|peluquería|óptica"_s,
         u"y|e|otra|otro"_s,
+        u"lunes|lun|martes|miércoles|mié|jueves|jue|viernes|vie|sábado|sáb|domingo|dom"_s,
+        u"servicio|departamento|concejalía|sección|facultad|negociado|delegación|horario|abierto|cerrado"_s,
+        u"domicilio|domiciliada|domiciliado|residencia|vecino|vecina|sede|dni|nif|cif|nie|inscrita"_s,
         {
             { DocumentDate,
                 u"fecha de emisión|fecha de factura|fecha factura|fecha de expedición|fecha expedición|fecha emisión"
@@ -38,7 +41,7 @@ const Vocabulary &spanishVocabulary()
                 u"|expedido en|emitido|emitida|emitido el|fecha de la carta|fecha de firma|firmado en|firmado el|fecha "
                 u"del contrato|fecha de notificación|fecha de la reunión|fecha de celebración|fecha del informe|fecha "
                 u"de informe|fecha de reserva|fecha de la reserva|fecha de operación|fecha y hora|fecha hora|siendo "
-                u"las|celebrada el|celebrado el|día|fecha de la compra|fecha del pedido|fecha de pedido|fecha de "
+                u"las|celebrada el|celebrado el|día:|fecha de la compra|fecha del pedido|fecha de pedido|fecha de "
                 u"certificación|fecha de timbrado|dado en|fecha de la oferta|fecha de oferta|fecha de liquidación"
                 u"|fecha del acta|fecha de inspección|fecha de entrega del informe|fecha de consulta|lugar y fecha"
                 u"|fecha de la liquidación|fecha de expedicion del certificado|reservado el|comprado el"_s },
@@ -83,11 +86,16 @@ const Vocabulary &spanishVocabulary()
                 u"|razón social emisor|beneficiario|datos del emisor|gracias por comprar en|establecimiento|comercio"
                 u"|datos del vendedor|acreedor"_s },
             { Buyer,
-                u"cliente|datos del cliente|receptor|comprador|facturar a|a la atención "
-                u"de|destinatario|para:|a:|titular"
+                u"cliente|datos del cliente|receptor|comprador|facturar a|destinatario|para:|a:|titular"
                 u"|facturado a|factura a|nombre del "
-                u"cliente|paciente|pasajero|viajero|huésped|trabajador|att|atn|adquirente"
+                u"cliente|paciente|pasajero|viajero|huésped|trabajador|adquirente"
                 u"|obligado tributario|contribuyente|dirigido a|a nombre de|razón social cliente|alumno|sr cliente"_s },
+            { Attention, u"a la atención de|att|atn"_s },
+            { PayingDepartment,
+                u"cuentas a pagar|departamento de compras|departamento de contabilidad|administración y compras"_s },
+            { ActingFor,
+                u"en nombre y representación de|en representación de|representación de|en nombre de|actuando en "
+                u"nombre de"_s },
             { PartyOne,
                 u"arrendador|arrendadora|empleador|empleadora|empresa:|vendedor:|vendedora:|prestamista|asegurador"
                 u"|aseguradora|poderdante|licenciante|parte a|contratante:|parte vendedora|parte arrendadora"_s },
