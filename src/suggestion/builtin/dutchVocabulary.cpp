@@ -33,7 +33,7 @@ const Vocabulary &dutchVocabulary()
         u"|tandartspraktijk|notariskantoor|advocatenkantoor|accountantskantoor|kantoor|verzekeringen|energie"_s,
         u"en|anderzijds"_s,
         u"maandag|ma|dinsdag|di|woensdag|wo|donderdag|do|vrijdag|vr|zaterdag|za|zondag|zo"_s,
-        u"afdeling|polikliniek|faculteit|openingstijden|geopend|gesloten|secretariaat"_s,
+        u"afdeling|polikliniek|faculteit|team|directie|vakgroep|openingstijden|geopend|gesloten|secretariaat"_s,
         u"gevestigd|wonende|woonachtig|kantoorhoudende|adres|ingeschreven|geboren"_s,
         {
             { DocumentDate,
@@ -44,7 +44,8 @@ const Vocabulary &dutchVocabulary()
                 u"|gepubliceerd|gepubliceerd op|geplaatst op|publicatiedatum|vergaderdatum|datum vergadering"
                 u"|aankoopdatum|datum aankoop|bestelldatum|besteldatum|boekingsdatum|geboekt op|geboekt|verslagdatum"
                 u"|rapportdatum|datum rapport|transactiedatum|datum document|documentdatum|datum en tijd|besteld op"
-                u"|verzonden|datum verzending|gehouden op|datum ondertekening|datum polis|polisdatum|datum besluit"
+                u"|verzonden|datum verzending|gehouden op|gehouden in|gehouden te|datum ondertekening|datum "
+                u"polis|polisdatum|datum besluit"
                 u"|verzenddatum|datum bon|bondatum|datum aanslag|datum overzicht|datum uitreiking|uitgereikt op|datum "
                 u"opmaak|datum rapportage|inspectiedatum|keuringsdatum|datum keuring|datum onderzoek|behaald op"_s },
             { PlainDate, u"datum|d.d.|dd|de dato"_s },

@@ -28,14 +28,15 @@ const Vocabulary &englishVocabulary()
         u"|surgery|club|union|authority|insurance|energy|water|group|studio|services|solutions|market|garage"_s,
         u"and"_s,
         u"monday|mon|tuesday|tue|tues|wednesday|wed|thursday|thu|thur|thurs|friday|fri|saturday|sat|sunday|sun"_s,
-        u"open|opening|closed|accounts|faculty|headteacher"_s,
+        u"open|opening|closed|accounts|faculty|division|directorate|headteacher"_s,
         u"address|registered|residing|whose|office|business|at"_s,
         {
             { DocumentDate,
                 u"invoice date|date of invoice|date issued|issue date|date of issue|issued on|issued|bill date|billing "
                 u"date|statement date|quote date|quotation date|receipt date|date of receipt|letter date|report date"
                 u"|document date|order date|booked on|booking date|purchase date|date of purchase|published|published "
-                u"on|posted on|held on|meeting date|date of meeting|dated|signed on|signed in|date signed|date of "
+                u"on|posted on|held on|held in|held at|meeting date|date of meeting|dated|signed on|signed in|date "
+                u"signed|date of "
                 u"signature|signature date|credit note date|typed|transaction date|tax point|executed on|made on"
                 u"|entered into on|entered into as of|as of|date prepared|prepared on|award date|date of award|date "
                 u"printed|invoiced on|tax date|made this|made the|made on the|dated the|dated this|date of "

@@ -33,7 +33,11 @@ bool beginsRunningText(const Reading &reading, int start, int index)
         return false;
     const bool goesOnSmall = !words[index + 1].isCapitalised && !words[index + 1].hasDigit
         && !words[index + 2].isCapitalised && !words[index + 2].hasDigit && !words[index].hasComma;
-    const bool isBelowLetterhead = isLetterhead(reading, start) && !isSmallWord(words[index + 2]);
+    int content = index + 1;
+    while (content < words.count() - 1 && isConnector(words[content].folded) && !words[content].isCapitalised)
+        ++content;
+    const bool isBelowLetterhead
+        = isLetterhead(reading, start) && !words[content].isCapitalised && !isSmallWord(words[content]);
     if (!goesOnSmall || (isConnector(words[index + 1].folded) && !isBelowLetterhead))
         return false;
     for (int at = start; at < index; ++at) {
@@ -112,6 +116,10 @@ bool isBorder(const Reading &reading, int start, int index)
     const Word &before = words[index - 1];
     if (word.isNewPart || before.endsSentence || reading.isDateAt(index) || reading.isAmountAt(index)
         || reading.isIdentifierAt(index))
+        return true;
+    // "Minutes of the meeting held in the hall": where and when are not what it is about.
+    static const QStringList participles { u"held"_s, u"gehouden"_s, u"celebrada"_s, u"celebrado"_s };
+    if (index - start > 2 && participles.contains(word.folded))
         return true;
     const LabelMark *label = reading.labelAt(index);
     const bool isLabel = label && (word.isCapitalised || words[label->end - 1].hasColon) && !isConnector(word.folded)
@@ -192,7 +200,7 @@ int endOfMasthead(const Reading &reading)
         const bool isDateline = isWeekday(weekday.folded) && weekday.isCapitalised && date.start > 1;
         bool isInSentence = false;
         for (int index = 0; index < date.start; ++index)
-            isInSentence = isInSentence || words[index].endsSentence || reading.labelAt(index);
+            isInSentence = isInSentence || words[index].endsSentence || words[index].hasColon;
         if (isDateline && !isInSentence)
             return date.end;
     }

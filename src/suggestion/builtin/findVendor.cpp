@@ -108,6 +108,17 @@ struct Candidates {
     double bestWeight = 0;
 };
 
+/// "3011 AB Rotterdam": the place behind a Dutch postcode ends an address.
+bool isBehindPostcode(const Words &words, int index)
+{
+    if (index < 2)
+        return false;
+    const Word &figures = words[index - 2];
+    const Word &letters = words[index - 1];
+    const bool isFigures = figures.hasDigit && figures.folded.size() == 4 && !figures.hasComma;
+    return isFigures && letters.isUpperCase && letters.folded.size() == 2 && !letters.hasComma;
+}
+
 /// Walks back from a legal form to where its name begins.
 std::optional<FoundName> nameBeforeLegalForm(const Reading &reading, int form)
 {
@@ -116,8 +127,9 @@ std::optional<FoundName> nameBeforeLegalForm(const Reading &reading, int form)
         const bool mayBegin = start == 0 || !reading.words[start - 1].isCapitalised || reading.words[start].isNewPart
             || reading.words[start - 1].endsSentence || reading.words[start - 1].hasColon
             || reading.words[start - 1].hasDigit || reading.words[start - 1].hasComma || reading.labelAt(start - 1)
-            || reading.typeAt(start - 1) || reading.words[start].isOpened;
-        if (!mayBegin || reading.labelAt(start) || reading.typeAt(start))
+            || reading.typeAt(start - 1) || reading.words[start].isOpened || isBehindPostcode(reading.words, start - 1);
+        const bool isInPostcode = isBehindPostcode(reading.words, start) || isBehindPostcode(reading.words, start + 1);
+        if (!mayBegin || isInPostcode || reading.labelAt(start) || reading.typeAt(start))
             continue;
         const auto name = readName(reading, start);
         if (name && name->end > form && name->hasLegalForm)
@@ -149,6 +161,9 @@ bool returns(const Words &words, int start, int end)
             || words[index - 1].endsSentence || words[index - 1].hasComma || words[index - 1].hasDigit;
     };
     const int length = end - start;
+    // "Birch Lane Surgery" stands in a street of that name.
+    if (endsStreet(words[end - 1].folded))
+        return false;
     for (int position = 0; position + length <= words.count(); ++position) {
         const bool isElsewhere = position >= end || position + length <= start;
         if (!isElsewhere || !words[position].isCapitalised || !isApart(position))

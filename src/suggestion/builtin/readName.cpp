@@ -117,6 +117,33 @@ bool beginsDepartmentOrHours(const Reading &reading, int index)
     return true;
 }
 
+/// "Bakers since 1931", "Dormir junto al río desde 1962".
+bool leadsToFoundingYear(const Words &words, int index)
+{
+    constexpr int longestSlogan = 6;
+    for (int next = index + 1; next + 1 < std::min(words.count(), index + longestSlogan); ++next) {
+        if (isSince(words[next].folded))
+            return words[next + 1].hasDigit;
+        if (words[next].isCapitalised || words[next].hasDigit || words[next - 1].endsSentence || words[next].isNewPart)
+            return false;
+    }
+    return false;
+}
+
+/// "Mondzorg voor jong en oud" behind "Tandartspraktijk De Singel". In a sentence a verb would follow the name.
+bool saysForWhom(const Reading &reading, int start, int index)
+{
+    static const QStringList purposes { u"for"_s, u"voor"_s, u"para"_s };
+    constexpr int shortestSlogan = 4;
+    const Words &words = reading.words;
+    const bool isComplete
+        = isOrganisation(words[start].folded) && index - start > 1 && !isConnector(words[index - 1].folded);
+    if (!isComplete || index + shortestSlogan > words.count() || !purposes.contains(words[index + 1].folded))
+        return false;
+    return std::all_of(&words[index + 1], &words[index + shortestSlogan - 1] + 1,
+        [](const Word &word) { return !word.isCapitalised && !word.hasDigit; });
+}
+
 /// "Powering homes since 2009", "Bakers since 1931", "Binnen- en buitenschilderwerk": what stands below a name on
 /// paper with a printed head. A gerund or a trade in small letters behind a name that is complete.
 bool beginsSlogan(const Reading &reading, int start, int index)
@@ -126,7 +153,7 @@ bool beginsSlogan(const Reading &reading, int start, int index)
     if (!word.isCapitalised || index + 2 >= words.count())
         return false;
     const Word &next = words[index + 1];
-    if (isSince(next.folded) && words[index + 2].hasDigit)
+    if (leadsToFoundingYear(words, index) || saysForWhom(reading, start, index))
         return true;
     const bool isSuspended = words.text().at(word.end) == u'-' && isConnector(next.folded);
     if (isSuspended)

@@ -31,7 +31,7 @@ const Vocabulary &spanishVocabulary()
         u"|centro|escuela|museo|cafetería|construcciones|comercial|seguros|escuela|academia|peluquería|óptica"_s,
         u"y|e|otra|otro"_s,
         u"lunes|lun|martes|miércoles|mié|jueves|jue|viernes|vie|sábado|sáb|domingo|dom"_s,
-        u"servicio|departamento|concejalía|sección|facultad|negociado|delegación|horario|abierto|cerrado"_s,
+        u"servicio|departamento|concejalía|sección|facultad|área|unidad|negociado|delegación|horario|abierto|cerrado"_s,
         u"domicilio|domiciliada|domiciliado|residencia|vecino|vecina|sede|dni|nif|cif|nie|inscrita"_s,
         {
             { DocumentDate,
@@ -41,7 +41,8 @@ const Vocabulary &spanishVocabulary()
                 u"|expedido en|emitido|emitida|emitido el|fecha de la carta|fecha de firma|firmado en|firmado el|fecha "
                 u"del contrato|fecha de notificación|fecha de la reunión|fecha de celebración|fecha del informe|fecha "
                 u"de informe|fecha de reserva|fecha de la reserva|fecha de operación|fecha y hora|fecha hora|siendo "
-                u"las|celebrada el|celebrado el|día:|fecha de la compra|fecha del pedido|fecha de pedido|fecha de "
+                u"las|celebrada el|celebrada en|celebrado en|celebrado el|día:|fecha de la compra|fecha del "
+                u"pedido|fecha de pedido|fecha de "
                 u"certificación|fecha de timbrado|dado en|fecha de la oferta|fecha de oferta|fecha de liquidación"
                 u"|fecha del acta|fecha de inspección|fecha de entrega del informe|fecha de consulta|lugar y fecha"
                 u"|fecha de la liquidación|fecha de expedicion del certificado|reservado el|comprado el"_s },
