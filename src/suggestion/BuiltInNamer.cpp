@@ -208,8 +208,8 @@ QString fittingName(std::vector<Piece> pieces)
     constexpr qsizetype countedAtMost = 1000;
     qsizetype length = countCharacters(joined(pieces), countedAtMost);
     for (Piece &piece : pieces) {
-        const bool isPlainer = !piece.plainer.isEmpty() && piece.plainer.size() < piece.text.size();
-        if (length > longestName && isPlainer)
+        const bool isBeginning = !piece.plainer.isEmpty() && piece.text.startsWith(piece.plainer);
+        if (length > longestName && isBeginning)
             piece.text = piece.plainer;
         length = countCharacters(joined(pieces), countedAtMost);
     }
@@ -224,9 +224,12 @@ QString fittingName(std::vector<Piece> pieces)
         const qsizetype own = countCharacters(longest->text, countedAtMost);
         // "Ltd" is the first thing that a person would leave out.
         const QString shorter = withoutLegalForms(longest->text);
-        longest->text = shorter.size() < longest->text.size()
-            ? shorter
-            : cutAtWord(longest->text, std::max<qsizetype>(0, own - (length - longestName)));
+        if (shorter.size() < longest->text.size())
+            longest->text = shorter;
+        else if (!longest->plainer.isEmpty() && longest->plainer.size() < longest->text.size())
+            longest->text = longest->plainer;
+        else
+            longest->text = cutAtWord(longest->text, std::max<qsizetype>(0, own - (length - longestName)));
         std::erase_if(pieces, [](const Piece &piece) { return piece.text.isEmpty(); });
         length = countCharacters(joined(pieces), countedAtMost);
     }

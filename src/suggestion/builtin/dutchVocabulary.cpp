@@ -92,7 +92,8 @@ const Vocabulary &dutchVocabulary()
                 u"rekening|bedrijf:"
                 u"|bedankt voor uw bezoek aan|bedankt voor uw aankoop bij|welkom bij|uitgegeven door|verstrekt door"_s },
             { Buyer,
-                u"koper|klant|klantnaam|aan|aan:|aan de|factuur aan|factuuradres|afleveradres|bezorgadres|leveradres"
+                u"koper|ontvangen van|klant|klantnaam|aan|aan:|aan de|factuur "
+                u"aan|factuuradres|afleveradres|bezorgadres|leveradres"
                 u"|debiteur|voor:|offerte voor|opdrachtgever:|gast|reiziger|patiënt|patient"
                 u"|ontvanger|geadresseerde|ten name van|tnv|t.n.v|betreft perceel van|passagier|klantgegevens|naam "
                 u"klant|relatie:|contactpersoon|afnemer"_s },

@@ -91,7 +91,8 @@ const Vocabulary &englishVocabulary()
                 u"|thank you for visiting|welcome to|account holder:|beneficiary:|prepared by"_s },
             { Buyer,
                 u"bill to|billed to|invoice to|sold to|ship to|deliver to|customer|client|customer name|client name"
-                u"|to:|for:|recipient|prepared for|quote for|quotation for|guest|guest "
+                u"|to:|for:|received from|received with thanks from|recipient|prepared for|quote for|quotation "
+                u"for|guest|guest "
                 u"name|passenger|passenger name|account name|patient|member|invoice for|quote to|payer|delivery "
                 u"address|billing address|invoice address|customer details"_s },
             { Attention, u"attn|attention|attention of|for the attention of|fao"_s },

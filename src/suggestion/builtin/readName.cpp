@@ -130,18 +130,22 @@ bool leadsToFoundingYear(const Words &words, int index)
     return false;
 }
 
-/// "Mondzorg voor jong en oud" behind "Tandartspraktijk De Singel". In a sentence a verb would follow the name.
-bool saysForWhom(const Reading &reading, int start, int index)
+/// "Mondzorg voor jong en oud" behind "Tandartspraktijk De Singel", "Chapa y pintura" behind "Taller Ruano": what an
+/// organisation does, in small letters. In a sentence a verb would follow the name.
+bool beginsTrade(const Reading &reading, int start, int index)
 {
-    static const QStringList purposes { u"for"_s, u"voor"_s, u"para"_s };
-    constexpr int shortestSlogan = 4;
     const Words &words = reading.words;
-    const bool isComplete
-        = isOrganisation(words[start].folded) && index - start > 1 && !isConnector(words[index - 1].folded);
-    if (!isComplete || index + shortestSlogan > words.count() || !purposes.contains(words[index + 1].folded))
+    const bool isOfOrganisation = isOrganisation(words[start].folded) || isOrganisation(words[index - 1].folded);
+    const bool isComplete = isOfOrganisation && index - start > 1 && !isConnector(words[index - 1].folded);
+    if (!isComplete || index + 2 >= words.count())
         return false;
-    return std::all_of(&words[index + 1], &words[index + shortestSlogan - 1] + 1,
-        [](const Word &word) { return !word.isCapitalised && !word.hasDigit; });
+    const auto isSmall
+        = [&words](int at) { return at < words.count() && !words[at].isCapitalised && !words[at].hasDigit; };
+    static const QStringList purposes { u"for"_s, u"voor"_s, u"para"_s };
+    const Word &next = words[index + 1];
+    if (purposes.contains(next.folded))
+        return isSmall(index + 2) && isSmall(index + 3);
+    return joinsParties(next.folded, reading.language) && isSmall(index + 2) && !isConnector(words[index + 2].folded);
 }
 
 /// "Powering homes since 2009", "Bakers since 1931", "Binnen- en buitenschilderwerk": what stands below a name on
@@ -153,7 +157,7 @@ bool beginsSlogan(const Reading &reading, int start, int index)
     if (!word.isCapitalised || index + 2 >= words.count())
         return false;
     const Word &next = words[index + 1];
-    if (leadsToFoundingYear(words, index) || saysForWhom(reading, start, index))
+    if (leadsToFoundingYear(words, index) || beginsTrade(reading, start, index))
         return true;
     const bool isSuspended = words.text().at(word.end) == u'-' && isConnector(next.folded);
     if (isSuspended)

@@ -87,7 +87,8 @@ const Vocabulary &spanishVocabulary()
                 u"|razón social emisor|beneficiario|datos del emisor|gracias por comprar en|establecimiento|comercio"
                 u"|datos del vendedor|acreedor"_s },
             { Buyer,
-                u"cliente|datos del cliente|receptor|comprador|facturar a|destinatario|para:|a:|titular"
+                u"cliente|recibido de|recibí de|he recibido de|datos del cliente|receptor|comprador|facturar "
+                u"a|destinatario|para:|a:|titular"
                 u"|facturado a|factura a|nombre del "
                 u"cliente|paciente|pasajero|viajero|huésped|trabajador|adquirente"
                 u"|obligado tributario|contribuyente|dirigido a|a nombre de|razón social cliente|alumno|sr cliente"_s },
