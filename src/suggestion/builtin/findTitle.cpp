@@ -129,7 +129,8 @@ bool isBorder(const Reading &reading, int start, int index)
     if (leavesCapitals(reading, start, index) || entersCapitals(reading, index) || isByline(reading, index))
         return true;
     const bool isOpener = isSentenceOpener(word.folded) && word.isCapitalised && index - start > 1
-        && index + 1 < words.count() && !words[index + 1].isCapitalised && !words[index + 1].hasDigit;
+        && index + 1 < words.count() && !words[index + 1].hasDigit
+        && (!words[index + 1].isCapitalised || isWeekday(words[index + 1].folded));
     if (isLetterhead(reading, start) && beginsDepartment(word.folded) && word.isCapitalised)
         return true;
     if (beginsNextSentence(reading, start, index) || isTypeBelowTitle(reading, start, index))

@@ -40,6 +40,15 @@ bool isAddressed(const Reading &reading, int start)
         && start - nearest->end < longestAddress;
 }
 
+/// "From the desk of the head teacher". "De heer Jansen" is a name that gets the letter.
+bool beginsPhrase(const Words &words, int index)
+{
+    if (!isSentenceOpener(words[index].folded) || index + 2 >= words.count())
+        return false;
+    const Word &next = words[index + 1];
+    return !next.isCapitalised && !next.hasDigit && !isFormOfAddress(next.folded) && !words[index + 2].isCapitalised;
+}
+
 /// The first word behind headings, their numbers and labelled figures at the top of a document.
 int letterheadStart(const Reading &reading)
 {
@@ -61,7 +70,7 @@ int letterheadStart(const Reading &reading)
         else if (numberWords.contains(words[index].folded) || words[index].hasDigit || reading.isDateAt(index)
             || reading.isAmountAt(index))
             ++index;
-        else if (!words[index].isCapitalised)
+        else if (!words[index].isCapitalised || beginsPhrase(words, index))
             ++index;
         else
             return index;

@@ -169,6 +169,21 @@ bool beginsSlogan(const Reading &reading, int start, int index)
     return isGerund && isSmall && isComplete && !words[index + 2].isCapitalised;
 }
 
+/// "Tollgate Savings Society": a word that labels an amount has one behind it.
+bool isPartOfName(const Reading &reading, const LabelMark &label)
+{
+    static const QList<Label> amounts { Label::Total, Label::OtherAmount, Label::FinalBalance, Label::NetPay };
+    const Words &words = reading.words;
+    if (!amounts.contains(label.label) || label.end - label.start > 1 || words[label.start].hasColon)
+        return false;
+    constexpr int farthestAmount = 3;
+    for (int index = label.end; index < std::min(words.count(), label.end + farthestAmount); ++index) {
+        if (words[index].hasDigit)
+            return false;
+    }
+    return label.end < words.count() && words[label.end].isCapitalised && !reading.labelAt(label.end);
+}
+
 bool endsBefore(const Reading &reading, int start, int index)
 {
     const Word &word = reading.words[index];
@@ -179,7 +194,7 @@ bool endsBefore(const Reading &reading, int start, int index)
         return true;
     const LabelMark *label = reading.labelAt(index);
     const bool isLabel = label && (word.isCapitalised || reading.words[label->end - 1].hasColon);
-    if (isLabel && !isLegalForm(word.folded) && !isConnector(word.folded))
+    if (isLabel && !isLegalForm(word.folded) && !isConnector(word.folded) && !isPartOfName(reading, *label))
         return true;
     const TypeMark *type = reading.typeAt(index);
     const bool isHeading = type && type->strength != TypeStrength::Hint && word.isCapitalised;
