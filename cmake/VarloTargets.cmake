@@ -31,6 +31,20 @@ function(varlo_library name)
   target_link_libraries(varlo_${name} PUBLIC varlo_options Qt6::Core ${arg_USES} ${arg_LINKS})
 endfunction()
 
+# varlo_module(varlo-model-client SOURCES modelClientModule.cpp [USES ...] [LINKS ...])
+# A part of Varlo that is loaded at run time, by loadModule().
+set(VARLO_MODULE_FOLDER ${PROJECT_BINARY_DIR}/modules)
+function(varlo_module name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;USES;LINKS")
+  add_library(${name} MODULE ${arg_SOURCES})
+  set_target_properties(${name} PROPERTIES PREFIX "" CXX_VISIBILITY_PRESET hidden
+    LIBRARY_OUTPUT_DIRECTORY ${VARLO_MODULE_FOLDER})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/src)
+  list(TRANSFORM arg_USES PREPEND Varlo::)
+  target_link_libraries(${name} PRIVATE varlo_options Qt6::Core ${arg_USES} ${arg_LINKS})
+  install(TARGETS ${name} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/varlo)
+endfunction()
+
 # varlo_test(history/tst_RenameLog.cpp USES history fakes [LINKS ...] [COMMAND wrapper...] [PROPERTIES ...])
 # A Qt Test program of its own, run below a fresh home and a fresh set of XDG folders.
 function(varlo_test source)

@@ -7,7 +7,7 @@
 #include "platform/linux/FileSecretStore.h"
 #include "platform/linux/SecretServiceStore.h"
 #include "suggestion/BuiltInNamer.h"
-#include "suggestion/ClaudeNameSuggester.h"
+#include "suggestion/makeModelClient.h"
 #include <QCoreApplication>
 
 namespace Varlo {
@@ -125,7 +125,9 @@ NameSuggestionService *Session::suggester(const NamingOptions &options)
     if (model.isEmpty())
         model = preferences().string(Preference::model);
     APIKeyStore &keys = keyStore(*chosen);
-    m_suggester = std::make_unique<ClaudeNameSuggester>(*chosen, model, [&keys] { return keys.loadKey(); });
+    m_suggester = makeModelClient(*chosen, model, [&keys] { return keys.loadKey(); });
+    if (!m_suggester)
+        m_terminal.complain(QCoreApplication::translate("Terminal", "the part that asks a model is not installed"));
     return m_suggester.get();
 }
 

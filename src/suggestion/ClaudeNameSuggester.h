@@ -4,9 +4,9 @@
 
 #include "platform/SecretStore.h"
 #include "settings/Endpoint.h"
+#include "suggestion/makeModelClient.h"
 #include "suggestion/NameSuggestionService.h"
 #include <chrono>
-#include <functional>
 #include <memory>
 #include <QObject>
 
@@ -27,8 +27,6 @@ struct RequestLimits {
 class ClaudeNameSuggester final : public QObject, public NameSuggestionService {
     Q_OBJECT
 public:
-    using KeyLoader = std::function<QCoro::Task<Result<QString, SecretStore::Failure>>()>;
-
     /// `model` "" stands for the usual one. `loadKey` is called afresh for each request, so that a key entered
     /// meanwhile holds for the next file.
     ClaudeNameSuggester(

@@ -30,7 +30,7 @@ static const NameSuggestion goodSuggestion { u"A name"_s, {} };
 
 static QCoro::Task<LoadedKey> keyTask(LoadedKey key) { co_return key; }
 
-static ClaudeNameSuggester::KeyLoader loaderOf(const LoadedKey &key)
+static KeyLoader loaderOf(const LoadedKey &key)
 {
     return [key] { return keyTask(key); };
 }

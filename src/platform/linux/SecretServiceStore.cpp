@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/linux/SecretServiceStore.h"
 
+#include "platform/linux/loadModule.h"
 #include "platform/linux/secretservice/SecretServiceModule.h"
 #include <functional>
 #include <memory>
 #include <QCoreApplication>
 #include <QCoroSignal>
 #include <QFutureWatcher>
-#include <QLibrary>
 #include <QPromise>
 #include <QStringDecoder>
 #include <thread>
@@ -21,26 +21,12 @@ using Failure = SecretStore::Failure;
 
 namespace {
 
-constexpr auto moduleName = "varlo-secret-service.so"_L1;
-
-/// Beside the program as it was installed or, for a program of the build tree, where the build puts it. A program
-/// outside the build tree never looks there: somebody else may own that path by then.
-QString modulePath()
-{
-    const QString programFolder = QCoreApplication::applicationDirPath();
-    const QString buildTree = QStringLiteral(VARLO_BUILD_TREE);
-    if (programFolder.startsWith(buildTree + u'/') || programFolder == buildTree)
-        return QStringLiteral(VARLO_BUILT_MODULE_FOLDER "/") + moduleName;
-    return programFolder + QStringLiteral("/" VARLO_INSTALLED_MODULE_FOLDER "/") + moduleName;
-}
-
 /// The module's calls, or nullptr where it or a library that it needs is not installed.
 const SecretServiceModule *module()
 {
     static const SecretServiceModule *const loaded = [] {
-        QLibrary library(modulePath());
-        library.setLoadHints(QLibrary::PreventUnloadHint); // GLib's threads and types outlive any unloading
-        const auto entry = reinterpret_cast<SecretServiceEntry>(library.resolve(secretServiceEntryName));
+        const auto entry
+            = reinterpret_cast<SecretServiceEntry>(loadModule("varlo-secret-service"_L1, secretServiceEntryName));
         return entry ? entry() : nullptr;
     }();
     return loaded;
