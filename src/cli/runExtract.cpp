@@ -126,7 +126,7 @@ private:
                                m_terminal.print(u"==> %1 <=="_s.arg(file));
                            m_terminal.print(summary(content));
                        },
-                       [&](const Unreadable &unreadable) { complain(terminalText(unreadable.message)); },
+                       [&](const Unreadable &unreadable) { complain(terminalMessage(unreadable.message)); },
                        [&](NoTextFound) { complain(QCoreApplication::translate("Terminal", "No text found")); },
                        [&](NotSupportedYet) {
                            complain(QCoreApplication::translate("Terminal", "This type of file is not supported yet."));

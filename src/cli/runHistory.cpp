@@ -117,7 +117,7 @@ static bool undo(const QString &id, const UndoCommand &command, Session &session
         outcome = QCoro::waitFor(session.renameLog().revert(id));
     if (!outcome) {
         object.insert(u"message"_s, outcome.error());
-        terminal.complain(terminalText(id) + u": "_s + terminalText(outcome.error()));
+        terminal.complain(terminalText(id) + u": "_s + terminalMessage(outcome.error()));
     } else if (*outcome) {
         insertPath(object, u"restoredPath"_s, **outcome);
         if (!command.json)

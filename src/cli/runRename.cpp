@@ -69,7 +69,7 @@ static void tellOfRest(const RenamerViewModel &batch, Terminal &terminal)
             continue;
         const auto *failed = std::get_if<FileItem::Failed>(&item.status);
         terminal.complain(
-            pathFromHere(item.path) + u": "_s + (failed ? terminalText(failed->message) : label(item.status)));
+            pathFromHere(item.path) + u": "_s + (failed ? terminalMessage(failed->message) : label(item.status)));
     }
 }
 
@@ -113,7 +113,7 @@ static qsizetype renameFiles(RenamerViewModel &batch, qsizetype count, const Ren
         if (command.json)
             terminal.printJson(renamedToJson(item, oldPaths.at(item.id)));
         if (failed)
-            terminal.complain(pathFromHere(item.path) + u": "_s + terminalText(failed->message));
+            terminal.complain(pathFromHere(item.path) + u": "_s + terminalMessage(failed->message));
         progress.advance();
         if (isInterrupted)
             batch.stopRenaming();

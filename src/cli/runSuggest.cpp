@@ -19,7 +19,7 @@ static TableCell suggestionCell(const FileItem &item)
                               return TableCell { terminalText(suggestedFileName(item)), Colour::Green };
                           },
                           [](const FileItem::Failed &failed) {
-                              return TableCell { terminalText(failed.message), Colour::Red };
+                              return TableCell { terminalMessage(failed.message), Colour::Red };
                           },
                           [&](FileItem::Pending) { return statusCell(Colour::Dim); },
                           [&](FileItem::Processing) { return statusCell(Colour::Dim); },

@@ -82,6 +82,13 @@ QString terminalText(const std::filesystem::path &path)
     return out;
 }
 
+QString terminalMessage(const QString &message)
+{
+    constexpr qsizetype longest = 500;
+    const QStringView start = firstCharacters(message, longest);
+    return start.size() < message.size() ? terminalText(start) + u'…' : terminalText(start);
+}
+
 /// As much of the front as fits into the columns.
 static QString front(QStringView text, int columns)
 {

@@ -14,6 +14,9 @@ namespace Varlo {
 /// Bytes that are not UTF-8 come out in octal, as "\377".
 [[nodiscard]] QString terminalText(const std::filesystem::path &path);
 
+/// A message from elsewhere, which may be of any length: its first 500 characters, safe to print.
+[[nodiscard]] QString terminalMessage(const QString &message);
+
 /// The text cut in its middle, with "…" there, so that it takes at most `columns` columns of a terminal. Both ends of a
 /// file name matter: one tells the document, the other the kind.
 [[nodiscard]] QString elidedInMiddle(const QString &text, int columns);

@@ -6,12 +6,27 @@
 //     VARLO_API_KEY=any VARLO_ENDPOINT=http://127.0.0.1:8080 varlo suggest invoice.pdf
 #include "fakes/FakeMessagesServer.h"
 
+#include <csignal>
 #include <cstdio>
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QSocketNotifier>
+#include <sys/signalfd.h>
 
 using namespace Varlo;
 using namespace Qt::StringLiterals;
+
+/// Ctrl-C and `kill` end the event loop, so that the counts are still printed.
+static void quitWhenTold(QCoreApplication &application)
+{
+    sigset_t endings {};
+    sigemptyset(&endings);
+    sigaddset(&endings, SIGINT);
+    sigaddset(&endings, SIGTERM);
+    sigprocmask(SIG_BLOCK, &endings, nullptr);
+    auto *notifier = new QSocketNotifier(::signalfd(-1, &endings, SFD_CLOEXEC), QSocketNotifier::Read, &application);
+    QObject::connect(notifier, &QSocketNotifier::activated, &application, &QCoreApplication::quit);
+}
 
 int main(int argc, char *argv[])
 {
@@ -43,5 +58,9 @@ int main(int argc, char *argv[])
     }
     std::printf("%s\n", qPrintable(server.address()));
     std::fflush(stdout);
-    return QCoreApplication::exec();
+    quitWhenTold(application);
+    const int code = QCoreApplication::exec();
+    std::printf(
+        "%lld requests, %d connections\n", static_cast<long long>(server.requests().size()), server.connectionCount());
+    return code;
 }

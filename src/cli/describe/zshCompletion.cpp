@@ -16,7 +16,7 @@ static std::string functionName(const CommandDescription &command)
     return name;
 }
 
-/// The text as it may stand in a specification of _arguments, where brackets and colons part what is said.
+/// The text as it may stand in an entry of _arguments, where brackets and colons part what is said.
 static std::string escaped(const std::string &text)
 {
     std::string result;
@@ -29,7 +29,7 @@ static std::string escaped(const std::string &text)
 }
 
 /// ":MESSAGE:ACTION"; a single space as the action shows the message and completes nothing.
-static std::string valueSpecification(const ValueDescription &value)
+static std::string valueEntry(const ValueDescription &value)
 {
     const std::string message = ":" + escaped(value.placeholder) + ":";
     switch (value.kind) {
@@ -49,13 +49,13 @@ static void writeOption(const OptionDescription &option, std::ostream &out)
 {
     const std::string others = "(" + CLI::detail::join(option.names, " ") + ")";
     for (const std::string &name : option.names) {
-        std::string specification = others + name;
+        std::string entry = others + name;
         if (option.value)
-            specification += name.starts_with("--") ? "=" : "+";
-        specification += "[" + escaped(option.text) + "]";
+            entry += name.starts_with("--") ? "=" : "+";
+        entry += "[" + escaped(option.text) + "]";
         if (option.value)
-            specification += valueSpecification(*option.value);
-        out << "    " << shellQuoted(specification) << " \\\n";
+            entry += valueEntry(*option.value);
+        out << "    " << shellQuoted(entry) << " \\\n";
     }
 }
 
@@ -93,7 +93,7 @@ static void writeFunction(const CommandDescription &command, std::ostream &out)
     for (const OptionDescription &option : command.options)
         writeOption(option, out);
     for (const ArgumentDescription &argument : command.arguments)
-        out << "    " << shellQuoted((argument.isRepeated ? "*" : "") + valueSpecification(argument.value)) << " \\\n";
+        out << "    " << shellQuoted((argument.isRepeated ? "*" : "") + valueEntry(argument.value)) << " \\\n";
     if (command.commands.empty())
         out << "    && return\n";
     else

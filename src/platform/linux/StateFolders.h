@@ -14,7 +14,7 @@ namespace Varlo {
 using Environment = std::map<std::string, std::string>;
 [[nodiscard]] Environment processEnvironment();
 
-/// Where Varlo keeps its own files, after the XDG Base Directory Specification 0.8. Absolute paths of folders of
+/// Where Varlo keeps its own files, after the XDG base directory rules (freedesktop.org, 0.8). Absolute paths of folders of
 /// Varlo's own, which need not exist yet.
 struct StateFolders {
     std::filesystem::path config; ///< preferences
@@ -22,7 +22,7 @@ struct StateFolders {
     std::filesystem::path state; ///< journals
     std::filesystem::path cache; ///< what may be deleted at any time
 
-    /// A variable that holds a relative path counts as unset, as that specification demands.
+    /// A variable that holds a relative path counts as unset, as those rules demand.
     [[nodiscard]] static StateFolders from(const Environment &environment);
 };
 
