@@ -5,11 +5,7 @@
 add_library(varlo_options INTERFACE)
 target_compile_features(varlo_options INTERFACE cxx_std_20)
 target_compile_options(varlo_options INTERFACE
-  -Wall -Wextra -Wpedantic -Werror -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -fcoroutines)
-if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-  # Clang knows coroutines without the flag, which only GCC needs below C++20's final wording.
-  target_compile_options(varlo_options INTERFACE -Wno-unused-command-line-argument)
-endif()
+  -Wall -Wextra -Wpedantic -Werror -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough)
 target_compile_definitions(varlo_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_CAST_FROM_BYTEARRAY
   QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400 _FILE_OFFSET_BITS=64
