@@ -24,10 +24,12 @@ RenameLog::RenameLog(Preferences &preferences, FileRenamer &renamer, FolderAcces
 {
     connect(&preferences, &Preferences::changed, this, [this](const QString &name) {
         if (name == Preference::renameLog.name && !m_isStoring)
-            adopt(applyHistoryChanges(decoded(m_preferences.data(Preference::renameLog)), m_renamer.journal().peek()));
+            adopt(applyHistoryChanges(
+                decoded(m_preferences.data(Preference::renameLog)), m_renamer.journal().peek(maximumLogEntries)));
     });
     if (m_renamer.journal().isEmpty() || !store())
-        adopt(applyHistoryChanges(decoded(m_preferences.data(Preference::renameLog)), m_renamer.journal().peek()));
+        adopt(applyHistoryChanges(
+            decoded(m_preferences.data(Preference::renameLog)), m_renamer.journal().peek(maximumLogEntries)));
 }
 
 int RenameLog::rowCount(const QModelIndex &parent) const
@@ -106,12 +108,12 @@ void RenameLog::removeOldest(std::size_t count)
     endRemoveRows();
 }
 
-void RenameLog::append(const Entry &entry)
+void RenameLog::append(Entry entry)
 {
     const int row = rowCount();
     beginInsertRows({}, row, row);
-    m_entries.push_back(entry);
     countStanding(entry, 1);
+    m_entries.push_back(std::move(entry));
     endInsertRows();
     if (m_entries.size() > maximumLogEntries)
         removeOldest(m_entries.size() - maximumLogEntries);
@@ -174,7 +176,7 @@ Result<void, SystemError> RenameLog::store()
     if (!session)
         return tl::unexpected(session.error());
     const QScopedValueRollback isStoring(m_isStoring, true);
-    const std::vector<HistoryChange> changes = journal.changes();
+    const std::vector<HistoryChange> changes = journal.changes(maximumLogEntries);
     RenameLogEntries entries;
     Result<void, SystemError> kept;
     const auto stored = m_preferences.update(Preference::renameLog, [&](const PreferenceValue &current) {
@@ -205,17 +207,17 @@ void RenameLog::readAgain()
     const QScopedValueRollback isStoring(m_isStoring, true);
     static_cast<void>(
         m_preferences.update(Preference::renameLog, [](const PreferenceValue &current) { return current; }));
-    adopt(applyHistoryChanges(decoded(m_preferences.data(Preference::renameLog)), m_renamer.journal().changes()));
+    adopt(applyHistoryChanges(
+        decoded(m_preferences.data(Preference::renameLog)), m_renamer.journal().changes(maximumLogEntries)));
 }
 
 void RenameLog::record(const path &from, const path &to)
 {
     const std::optional<double> noted = m_renamer.takeDate(from, to);
-    const Entry entry { standardizedPath(from), standardizedPath(to), noted ? *noted : m_renamer.nextDate(),
-        std::nullopt };
-    append(entry);
+    Entry entry { standardizedPath(from), standardizedPath(to), noted ? *noted : m_renamer.nextDate(), std::nullopt };
     if (!noted)
         noteReported(entry);
+    append(std::move(entry));
     storeUnlessInAction();
 }
 

@@ -101,7 +101,7 @@ private:
     [[nodiscard]] Result<void, SystemError> store();
     void readAgain();
     void adopt(RenameLogEntries entries);
-    void append(const Entry &entry);
+    void append(Entry entry);
     void countStanding(const Entry &entry, int change);
     void removeOldest(std::size_t count);
 

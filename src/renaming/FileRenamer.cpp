@@ -20,7 +20,7 @@ static constexpr int lastNumber = 99;
 
 /// A request whose target name is known, if it has one.
 struct FileRenamer::Job {
-    path filePath;
+    const path *filePath = nullptr; ///< the caller's
     std::string folder;
     std::string name;
     Result<TargetName, RenameError> target = tl::unexpected(RenameError::InvalidName);
@@ -29,9 +29,20 @@ struct FileRenamer::Job {
 
     static Job of(const RenameRequest &request)
     {
-        const std::string name = request.path.filename().native();
-        return { request.path, request.path.parent_path().native(), name, targetName(name, request.newName),
-            request.admitted, std::nullopt };
+        Job job = at(request.path);
+        job.target = targetName(job.name, request.newName);
+        job.admitted = request.admitted;
+        return job;
+    }
+    static Job at(const path &file)
+    {
+        const std::string &text = file.native();
+        const std::size_t slash = text.rfind('/');
+        Job job;
+        job.filePath = &file;
+        job.folder = text.substr(0, std::max<std::size_t>(slash, 1));
+        job.name = text.substr(slash + 1);
+        return job;
     }
     [[nodiscard]] bool isDoneAlready() const { return target && target->isCurrentName; }
 };
@@ -154,8 +165,9 @@ void FileRenamer::Group::planAll(std::span<const Job> jobs)
 Result<void, SystemError> FileRenamer::Group::noteDown()
 {
     std::vector<JournalRecord> intents;
+    const double now = m_renamer.now();
     for (Step &step : m_steps) {
-        step.date = m_renamer.nextDate();
+        step.date = m_renamer.nextDate(now);
         const auto *move = std::get_if<PlannedMove>(&step.plan);
         if (!move)
             continue;
@@ -179,7 +191,7 @@ FileRenamer::Outcome FileRenamer::Group::move(const Step &step, const PlannedMov
     if (!moved)
         return tl::unexpected(moved.error());
     folder.hasMoves = true;
-    return path(step.job->folder) / planned.to;
+    return pathIn(step.job->folder, planned.to);
 }
 
 FileRenamer::Outcome FileRenamer::Group::carryOut(const Step &step)
@@ -188,10 +200,10 @@ FileRenamer::Outcome FileRenamer::Group::carryOut(const Step &step)
         return tl::unexpected(*failure);
     const auto *planned = std::get_if<PlannedMove>(&step.plan);
     if (!planned && step.job->undoneDate)
-        m_outcomes.push_back(UndoReported { step.job->filePath.native(), *step.job->undoneDate, step.date });
+        m_outcomes.push_back(UndoReported { step.job->filePath->native(), *step.job->undoneDate, step.date });
     if (!planned)
-        return step.job->filePath;
-    const Outcome outcome = move(step, *planned);
+        return *step.job->filePath;
+    Outcome outcome = move(step, *planned);
     if (!outcome) {
         const auto taken = folderOf(*step.job).opened->find(planned->to);
         if (taken && taken->identity == planned->file.identity) // a second name that could not be taken back
@@ -202,7 +214,7 @@ FileRenamer::Outcome FileRenamer::Group::carryOut(const Step &step)
     }
     m_outcomes.push_back(RenameDone { step.id });
     if (!step.job->undoneDate)
-        m_renamer.m_unloggedDates.emplace(std::pair { step.job->filePath.native(), outcome->native() }, step.date);
+        m_renamer.m_unloggedDates.emplace(std::pair { step.job->filePath->native(), outcome->native() }, step.date);
     return outcome;
 }
 
@@ -275,7 +287,7 @@ std::size_t FileRenamer::renameAll(std::span<const RenameRequest> requests, cons
             = [&](std::size_t index, const Outcome &outcome) { return report(tried + index, outcome); };
         Group::End end;
         if (jobs.size() == 1 && jobs.front().isDoneAlready())
-            end = { 1, false, numbered(0, jobs.front().filePath) == Next::Stop };
+            end = { 1, false, numbered(0, *jobs.front().filePath) == Next::Stop };
         else
             end = Group(*this).run(jobs, numbered);
         tried += end.tried;
@@ -291,8 +303,9 @@ Result<FileRenamer::TakenBack, RenameFailure> FileRenamer::takeBack(
     const path &filePath, const std::string &formerBase, double date)
 {
     const QScopedValueRollback isRenaming(m_isRenaming, true);
-    const std::string name = filePath.filename().native();
-    const Job job { filePath, filePath.parent_path().native(), name, formerName(name, formerBase), std::nullopt, date };
+    Job job = Job::at(filePath);
+    job.target = formerName(job.name, formerBase);
+    job.undoneDate = date;
     Outcome answer = tl::unexpected(RenameFailure(RenameError::InvalidName));
     static_cast<void>(Group(*this).run({ &job, 1 }, [&](std::size_t, const Outcome &outcome) {
         answer = outcome;
@@ -312,10 +325,14 @@ std::optional<double> FileRenamer::takeDate(const path &from, const path &to)
     return date;
 }
 
-double FileRenamer::nextDate()
+double FileRenamer::now() const
 {
     constexpr double secondsFrom1970To2001 = 978307200;
-    const double now = static_cast<double>(m_clock.now().toMSecsSinceEpoch()) / 1000 - secondsFrom1970To2001;
+    return static_cast<double>(m_clock.now().toMSecsSinceEpoch()) / 1000 - secondsFrom1970To2001;
+}
+
+double FileRenamer::nextDate(double now)
+{
     constexpr double microsecond = 1e-6;
     m_latestDate = std::max(now, m_latestDate + microsecond);
     return m_latestDate;

@@ -52,7 +52,7 @@ public:
     /// The date with which the journal has a rename made here, for the history to log it by; once for each.
     [[nodiscard]] std::optional<double> takeDate(const std::filesystem::path &from, const std::filesystem::path &to);
     /// Now, in seconds since 2001-01-01 00:00:00 UTC; later than any answer before, as dates tell renames apart.
-    [[nodiscard]] double nextDate();
+    [[nodiscard]] double nextDate() { return nextDate(now()); }
 
     /// True within `report`: the journal holds renames that have no outcome yet.
     [[nodiscard]] bool isRenaming() const { return m_isRenaming; }
@@ -61,6 +61,9 @@ public:
 private:
     struct Job;
     class Group;
+
+    [[nodiscard]] double now() const;
+    [[nodiscard]] double nextDate(double now);
 
     RenameJournal &m_journal;
     const Clock &m_clock;

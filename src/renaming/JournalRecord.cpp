@@ -96,18 +96,25 @@ static quint32 checksum(QByteArrayView bytes)
         ::crc32(0, reinterpret_cast<const Bytef *>(bytes.data()), static_cast<uInt>(bytes.size())));
 }
 
-QByteArray encodeRecord(const JournalRecord &record)
+QByteArray encodeRecords(std::span<const JournalRecord> records)
 {
-    QByteArray frame = marker;
-    frame.resize(frameHeadSize);
-    QDataStream stream(&frame, QIODevice::WriteOnly | QIODevice::Append);
+    QByteArray frames;
+    constexpr qsizetype usualFrame = 256;
+    frames.reserve(static_cast<qsizetype>(records.size()) * usualFrame);
+    QDataStream stream(&frames, QIODevice::WriteOnly);
     stream.setVersion(QDataStream::Qt_6_0);
-    stream << static_cast<quint8>(record.index());
-    std::visit([&](const auto &content) { stream << content; }, record);
-    const QByteArrayView payload = QByteArrayView(frame).sliced(frameHeadSize);
-    qToLittleEndian(static_cast<quint32>(payload.size()), frame.data() + marker.size());
-    qToLittleEndian(checksum(payload), frame.data() + marker.size() + 4);
-    return frame;
+    const QByteArray emptyHead = marker + QByteArray(frameHeadSize - marker.size(), '\0');
+    for (const JournalRecord &record : records) {
+        const qsizetype start = frames.size();
+        stream.writeRawData(emptyHead.constData(), static_cast<int>(emptyHead.size()));
+        stream << static_cast<quint8>(record.index());
+        std::visit([&](const auto &content) { stream << content; }, record);
+        const QByteArrayView payload = QByteArrayView(frames).sliced(start + frameHeadSize);
+        char *head = frames.data() + start + marker.size();
+        qToLittleEndian(static_cast<quint32>(payload.size()), head);
+        qToLittleEndian(checksum(payload), head + 4);
+    }
+    return frames;
 }
 
 template <std::size_t index = 0> std::optional<JournalRecord> readRecord(QDataStream &stream, std::size_t kind)
@@ -174,28 +181,42 @@ DecodedJournal decodeJournal(const QByteArray &content)
     return journal;
 }
 
-std::vector<HistoryChange> historyChanges(const std::vector<JournalRecord> &records)
+static HistoryChange changeBy(const RenameIntent &intent)
+{
+    if (intent.undoneDate)
+        return RenameTakenBack { pathIn(intent.folder, intent.from), *intent.undoneDate, intent.date };
+    return RenameAdded { pathIn(intent.folder, intent.from), pathIn(intent.folder, intent.to), intent.date };
+}
+
+static bool isAddition(const JournalRecord &record, const std::unordered_set<quint64> &done)
+{
+    const auto *intent = std::get_if<RenameIntent>(&record);
+    return (intent && !intent->undoneDate && done.contains(intent->id))
+        || std::holds_alternative<RenameReported>(record);
+}
+
+std::vector<HistoryChange> historyChanges(const std::vector<JournalRecord> &records, std::size_t maximumAdditions)
 {
     std::unordered_set<quint64> done;
     for (const JournalRecord &record : records) {
         if (const auto *mark = std::get_if<RenameDone>(&record))
             done.insert(mark->id);
     }
+    const auto additions = static_cast<std::size_t>(std::count_if(
+        records.begin(), records.end(), [&](const JournalRecord &record) { return isAddition(record, done); }));
+    std::size_t passedOver = additions - std::min(additions, maximumAdditions);
     std::vector<HistoryChange> changes;
     for (const JournalRecord &record : records) {
-        if (const auto *intent = std::get_if<RenameIntent>(&record); intent && done.contains(intent->id)) {
-            const std::filesystem::path folder = intent->folder;
-            if (intent->undoneDate)
-                changes.push_back(RenameTakenBack { folder / intent->from, *intent->undoneDate, intent->date });
-            else
-                changes.push_back(RenameAdded { folder / intent->from, folder / intent->to, intent->date });
-        } else if (const auto *report = std::get_if<RenameReported>(&record)) {
+        if (passedOver > 0 && isAddition(record, done))
+            --passedOver;
+        else if (const auto *intent = std::get_if<RenameIntent>(&record); intent && done.contains(intent->id))
+            changes.push_back(changeBy(*intent));
+        else if (const auto *report = std::get_if<RenameReported>(&record))
             changes.push_back(RenameAdded { report->fromPath, report->toPath, report->date });
-        } else if (const auto *undo = std::get_if<UndoReported>(&record)) {
+        else if (const auto *undo = std::get_if<UndoReported>(&record))
             changes.push_back(RenameTakenBack { undo->toPath, undo->date, undo->undoneAt });
-        } else if (std::holds_alternative<HistoryCleared>(record)) {
+        else if (std::holds_alternative<HistoryCleared>(record))
             changes.push_back(HistoryCleared {});
-        }
     }
     return changes;
 }

@@ -3,8 +3,10 @@
 #pragma once
 
 #include <filesystem>
+#include <limits>
 #include <optional>
 #include <QByteArray>
+#include <span>
 #include <string>
 #include <variant>
 #include <vector>
@@ -84,16 +86,24 @@ struct RenameTakenBack {
 };
 using HistoryChange = std::variant<RenameAdded, RenameTakenBack, HistoryCleared>;
 
-/// What the records say that was done, in the order in which it was begun.
-[[nodiscard]] std::vector<HistoryChange> historyChanges(const std::vector<JournalRecord> &records);
+constexpr std::size_t allAdditions = std::numeric_limits<std::size_t>::max();
+/// What the records say that was done, in the order in which it was begun; of the additions only the newest
+/// `maximumAdditions`.
+[[nodiscard]] std::vector<HistoryChange> historyChanges(
+    const std::vector<JournalRecord> &records, std::size_t maximumAdditions = allAdditions);
+/// In one step, where operator/ takes the folder's path apart and together again.
+[[nodiscard]] inline std::filesystem::path pathIn(const std::string &folder, const std::string &name)
+{
+    return folder.ends_with('/') ? folder + name : folder + '/' + name;
+}
 /// The renames of which the records do not say how they ended.
 [[nodiscard]] std::vector<RenameIntent> intentsWithoutOutcome(const std::vector<JournalRecord> &records);
 
 /// The bytes that a journal file begins with. `epoch` tells two files of the same length apart.
 [[nodiscard]] QByteArray journalHead(quint64 epoch);
 constexpr qsizetype journalHeadSize = 16;
-/// One record as it stands in the file: a marker, the length, a CRC-32 of what follows, and the record.
-[[nodiscard]] QByteArray encodeRecord(const JournalRecord &record);
+/// Records as they stand in the file, each a marker, the length, a CRC-32 of what follows, and the record.
+[[nodiscard]] QByteArray encodeRecords(std::span<const JournalRecord> records);
 
 /// A journal file's content, taken apart.
 struct DecodedJournal {

@@ -168,13 +168,11 @@ Result<void, SystemError> RenameJournal::setAside()
     return {};
 }
 
-Result<void, SystemError> RenameJournal::rewrite(const std::vector<JournalRecord> &records)
+Result<void, SystemError> RenameJournal::rewrite(std::vector<JournalRecord> records)
 {
     // Zero stands for a file that was never read.
     const quint64 epoch = std::max<quint64>(QRandomGenerator::system()->generate64(), 1);
-    QByteArray content = journalHead(epoch);
-    for (const JournalRecord &record : records)
-        content += encodeRecord(record);
+    const QByteArray content = journalHead(epoch) + encodeRecords(records);
     removeReplacementLeftovers(m_file);
     if (const auto replaced = replaceFile(m_file, content, ReplacedMode::OwnerOnly); !replaced)
         return replaced;
@@ -182,7 +180,7 @@ Result<void, SystemError> RenameJournal::rewrite(const std::vector<JournalRecord
         [&] { return ::open(m_file.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC); }));
     if (!m_descriptor.isOpen())
         return latestError();
-    m_records = records;
+    m_records = std::move(records); // and with it the memory of those forgotten
     m_epoch = epoch;
     m_size = content.size();
     return {};
@@ -205,9 +203,7 @@ static Result<void, SystemError> writeAt(int file, QByteArrayView bytes, qint64 
 
 Result<void, SystemError> RenameJournal::append(std::span<const JournalRecord> records, Durability durability)
 {
-    QByteArray bytes;
-    for (const JournalRecord &record : records)
-        bytes += encodeRecord(record);
+    const QByteArray bytes = encodeRecords(records);
     auto written = writeAt(m_descriptor.get(), bytes, m_size);
     if (written && durability == Durability::Synced
         && retryInterrupted([&] { return ::fdatasync(m_descriptor.get()); }) != 0)
@@ -231,14 +227,17 @@ bool RenameJournal::isEmpty() const
     return S_ISREG(status.st_mode) && status.st_size == journalHeadSize;
 }
 
-std::vector<HistoryChange> RenameJournal::changes() const { return historyChanges(m_records); }
+std::vector<HistoryChange> RenameJournal::changes(std::size_t maximumAdditions) const
+{
+    return historyChanges(m_records, maximumAdditions);
+}
 
-std::vector<HistoryChange> RenameJournal::peek() const
+std::vector<HistoryChange> RenameJournal::peek(std::size_t maximumAdditions) const
 {
     if (m_depth > 0)
-        return changes();
+        return changes(maximumAdditions);
     const auto content = readStateFile(m_file, sizeLimit);
-    return content ? historyChanges(decodeJournal(*content).records) : std::vector<HistoryChange> {};
+    return content ? historyChanges(decodeJournal(*content).records, maximumAdditions) : std::vector<HistoryChange> {};
 }
 
 static bool isLinkingMark(const JournalRecord &record, const std::vector<RenameIntent> &intents)
@@ -257,7 +256,7 @@ Result<void, SystemError> RenameJournal::forgetChanges()
         [&](const JournalRecord &record) { return isLinkingMark(record, intents); });
     if (left.size() == m_records.size())
         return {};
-    return rewrite(left);
+    return rewrite(std::move(left));
 }
 
 namespace {
@@ -351,7 +350,7 @@ Result<void, SystemError> RenameJournal::tellOfUnknown()
                       "in \"%3\".")
                 .arg(shownPath(unknown.from), shownPath(unknown.to), shownPath(unknown.folder)));
     }
-    return rewrite(records);
+    return rewrite(std::move(records));
 }
 
 QStringList RenameJournal::takeNotices() { return std::exchange(m_notices, {}); }

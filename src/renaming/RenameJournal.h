@@ -56,8 +56,8 @@ public:
 
     /// On an error nothing of it is in the file.
     [[nodiscard]] Result<void, SystemError> append(std::span<const JournalRecord> records, Durability durability);
-    /// What the history lacks, in the order in which it happened.
-    [[nodiscard]] std::vector<HistoryChange> changes() const;
+    /// What the history lacks, in the order in which it happened; of the additions only the newest ones.
+    [[nodiscard]] std::vector<HistoryChange> changes(std::size_t maximumAdditions = allAdditions) const;
     /// A rename of this process ended in a way that the files have to tell: the next session looks at them.
     void settleNextTime() { m_needsSettling = true; }
     /// Forgets the changes, now that the history has them. Renames without an outcome stay.
@@ -68,7 +68,7 @@ public:
     /// True when the file is missing or holds no record.
     [[nodiscard]] bool isEmpty() const;
     /// The changes as another process may just be writing them; nothing is settled and nobody waits.
-    [[nodiscard]] std::vector<HistoryChange> peek() const;
+    [[nodiscard]] std::vector<HistoryChange> peek(std::size_t maximumAdditions = allAdditions) const;
     /// Grows whenever a session found that another process had written, or stored the history, since the last one.
     [[nodiscard]] quint64 foreignChanges() const { return m_foreignChanges; }
     [[nodiscard]] qint64 size() const { return m_size; }
@@ -82,7 +82,7 @@ private:
     [[nodiscard]] Result<void, SystemError> read();
     [[nodiscard]] Result<void, SystemError> keepDamaged(const QByteArray &content);
     [[nodiscard]] Result<void, SystemError> setAside();
-    [[nodiscard]] Result<void, SystemError> rewrite(const std::vector<JournalRecord> &records);
+    [[nodiscard]] Result<void, SystemError> rewrite(std::vector<JournalRecord> records);
     [[nodiscard]] Result<void, SystemError> settle();
     [[nodiscard]] Result<void, SystemError> tellOfUnknown();
 

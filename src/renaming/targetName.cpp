@@ -71,6 +71,9 @@ static bool isDeceptive(const std::u32string &text, std::size_t at)
 
 static QString withoutDeceptiveCharacters(const QString &name)
 {
+    const bool isPlain = std::all_of(name.begin(), name.end(), [](QChar unit) { return unit >= u' ' && unit <= u'~'; });
+    if (isPlain)
+        return name; // sanitizeFilename() has made its white space simple
     // toUcs4() turns a lone surrogate into U+FFFD.
     const QList<uint> codePoints = name.toUcs4();
     const std::u32string text(codePoints.begin(), codePoints.end());
@@ -94,10 +97,17 @@ static bool isDotsOnly(const QString &name)
     return std::all_of(name.begin(), name.end(), [](QChar character) { return character == u'.'; });
 }
 
+static bool isAscii(const std::string &text)
+{
+    return std::none_of(text.begin(), text.end(), [](char byte) { return (byte & 0x80) != 0; });
+}
+
 static bool areCanonicallyEquivalent(const std::string &left, const std::string &right)
 {
     if (left == right)
         return true;
+    if (isAscii(left) && isAscii(right))
+        return false;
     const QString leftText = QString::fromStdString(left);
     const QString rightText = QString::fromStdString(right);
     // Bytes that are not UTF-8 would read as U+FFFD, whichever they are.

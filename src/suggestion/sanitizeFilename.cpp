@@ -6,11 +6,9 @@
 
 namespace Varlo {
 
-using namespace Qt::StringLiterals;
-
 static bool isQuotationMark(QChar character) { return character == u'"' || character == u'\'' || character == u'`'; }
 
-static bool isIllegal(QChar character) { return character < u' ' || u"<>:\"/\\|?*"_s.contains(character); }
+static bool isIllegal(QChar character) { return character < u' ' || QStringView(u"<>:\"/\\|?*").contains(character); }
 
 QString sanitizeFilename(const QString &name)
 {

@@ -184,7 +184,8 @@ static QByteArray fiveRecords()
     QByteArray content = journalHead(42);
     for (int number = 0; number < 5; ++number) {
         const std::string text = std::to_string(number);
-        content += encodeRecord(RenameReported { "/old/" + text, "/new/" + text, 1.0 * number });
+        const JournalRecord record = RenameReported { "/old/" + text, "/new/" + text, 1.0 * number };
+        content += encodeRecords({ &record, 1 });
     }
     return content;
 }
