@@ -141,7 +141,7 @@ FileRenamer::Group::Plan FileRenamer::Group::planInFolder(const Job &job, Folder
         if (holder->identity != file->identity)
             continue;
         // The file itself, on a volume that ignores case; or a second link to it, which is a name of its own.
-        const auto isLink = folder.opened->lists(candidate);
+        const auto isLink = folder.opened->isSecondLink(candidate);
         if (!isLink)
             return RenameFailure(isLink.error());
         if (!*isLink)

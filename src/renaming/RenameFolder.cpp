@@ -34,11 +34,12 @@ Result<RenameFolder, SystemError> RenameFolder::open(const std::filesystem::path
     return RenameFolder(std::move(descriptor), std::min(longest, Varlo::longestName));
 }
 
-Result<NamedFile, SystemError> RenameFolder::find(const std::string &name) const
+Result<NamedFile, SystemError> RenameFolder::find(const std::string &name, Knowledge knowledge) const
 {
     struct statx status { };
+    const int freshness = knowledge == Knowledge::Fresh ? AT_STATX_FORCE_SYNC : AT_STATX_SYNC_AS_STAT;
     const int answer = retryInterrupted([&] {
-        return ::statx(m_descriptor.get(), name.c_str(), AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT,
+        return ::statx(m_descriptor.get(), name.c_str(), AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT | freshness,
             STATX_BASIC_STATS | STATX_BTIME, &status);
     });
     if (answer != 0)
@@ -72,6 +73,16 @@ Result<bool, SystemError> RenameFolder::lists(const std::string &name) const
         if (name == entry->d_name)
             return true;
     }
+}
+
+Result<bool, SystemError> RenameFolder::isSecondLink(const std::string &name) const
+{
+    const auto found = find(name, Knowledge::Fresh);
+    if (!found)
+        return tl::unexpected(found.error());
+    if (found->linkCount < 2)
+        return false;
+    return lists(name);
 }
 
 void RenameFolder::sync() const
@@ -168,10 +179,10 @@ Result<void, SystemError> RenameFolder::moveByCheck(const PlannedMove &move) con
 /// RENAME_NOREPLACE says EEXIST here, as the file itself answers to the new name.
 Result<void, SystemError> RenameFolder::moveWithinSameName(const PlannedMove &move) const
 {
-    const auto isListed = lists(move.to);
-    if (!isListed)
-        return tl::unexpected(isListed.error());
-    if (*isListed || !isNamed(move, move.to))
+    const auto isLink = isSecondLink(move.to);
+    if (!isLink)
+        return tl::unexpected(isLink.error());
+    if (*isLink || !isNamed(move, move.to))
         return tl::unexpected(SystemError { EEXIST });
     const int folder = m_descriptor.get();
     if (retryInterrupted([&] { return ::renameat(folder, move.from.c_str(), folder, move.to.c_str()); }) != 0)
@@ -193,7 +204,7 @@ Result<void, RenameFailure> RenameFolder::checkMoved(const PlannedMove &move) co
 
 Result<void, SystemError> RenameFolder::unlinkExtraName(const std::string &name, const NamedFile &file) const
 {
-    const auto found = find(name);
+    const auto found = find(name, Knowledge::Fresh);
     if (!found)
         return tl::unexpected(found.error());
     if (found->identity != file.identity || found->linkCount < 2)

@@ -40,8 +40,15 @@ class RenameFolder {
 public:
     [[nodiscard]] static Result<RenameFolder, SystemError> open(const std::filesystem::path &path);
 
+    /// Network and FUSE file systems remember for a second or so what they said of a name, such as its link count.
+    enum class Knowledge { Remembered, Fresh };
     /// Error ENOENT when the name is free.
-    [[nodiscard]] Result<NamedFile, SystemError> find(const std::string &name) const;
+    [[nodiscard]] Result<NamedFile, SystemError> find(
+        const std::string &name, Knowledge knowledge = Knowledge::Remembered) const;
+    /// Whether a name that leads to a known file is a second link to it, and so a name of its own: not so where the
+    /// volume ignores case. A file with one link has one name, whatever the listing says: some list all names in lower
+    /// case.
+    [[nodiscard]] Result<bool, SystemError> isSecondLink(const std::string &name) const;
     /// True when the folder's listing has exactly these bytes; a volume that ignores case finds a file by other names
     /// as well.
     [[nodiscard]] Result<bool, SystemError> lists(const std::string &name) const;
