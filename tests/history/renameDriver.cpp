@@ -5,12 +5,14 @@
 // usage: renameDriver STATE rename [FILE NAME]...   all in one action
 //        renameDriver STATE undo COUNT              the latest ones
 //        renameDriver STATE churn PREFIX FILE...    each to a name of its own, the latest rename undone in between
-//        renameDriver STATE list                    the log as it stands in the preferences
+//        renameDriver STATE template NAME           adds a template of that name
+//        renameDriver STATE list | templates        the log, or the templates, as they stand in the preferences
 // One line for each file that could not be renamed; exit code 1 if there was one.
 
 #include "history/RenameLog.h"
 #include "platform/linux/JsonPreferenceStore.h"
 #include "platform/linux/SystemClock.h"
+#include "templates/TemplateStore.h"
 #include <cstdio>
 #include <QCoreApplication>
 #include <QCoroTask>
@@ -63,6 +65,18 @@ struct Driver {
         if (!outcome)
             fail(outcome.error());
     }
+    void addTemplate(const QString &name)
+    {
+        TemplateStore templates(preferences);
+        const auto id = templates.addTemplate({ TemplateField::Title });
+        const auto saved = id.and_then([&](const QString &added) {
+            NameTemplate named = *templates.nameTemplate(added);
+            named.name = name;
+            return templates.updateTemplate(named).map([&] { return added; });
+        });
+        if (!saved)
+            fail(saved.error().description());
+    }
     void churn(const QString &prefix, const std::vector<path> &files)
     {
         for (std::size_t number = 0; number < files.size(); ++number) {
@@ -92,6 +106,10 @@ int main(int argc, char **argv)
             driver.undoLatest();
     } else if (command == "churn") {
         driver.churn(QString::fromStdString(arguments.at(2)), { arguments.begin() + 3, arguments.end() });
+    } else if (command == "template") {
+        driver.addTemplate(QString::fromStdString(arguments.at(2)));
+    } else if (command == "templates") {
+        std::puts(driver.preferences.data(Preference::templates).constData());
     } else {
         std::puts(driver.preferences.data(Preference::renameLog).constData());
     }
