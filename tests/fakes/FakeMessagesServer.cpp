@@ -5,8 +5,11 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSocketNotifier>
 #include <QTcpSocket>
 #include <QTimer>
+#include <sys/timerfd.h>
+#include <unistd.h>
 
 namespace Varlo {
 
@@ -124,7 +127,29 @@ void FakeMessagesServer::takeBytes(QTcpSocket *socket, int connection)
 
     m_requests.append(request);
     const Reply reply = m_script(request);
-    QTimer::singleShot(reply.delay, socket, [this, socket, reply] { send(socket, reply); });
+    callAfter(reply.delay, socket, [this, socket, reply] { send(socket, reply); });
+}
+
+/// To the microsecond: Qt's timers count whole milliseconds, and benchmarks count on the delay.
+void FakeMessagesServer::callAfter(std::chrono::milliseconds delay, QObject *context, const std::function<void()> &call)
+{
+    if (delay.count() == 0) {
+        QTimer::singleShot(0, context, call);
+        return;
+    }
+    const std::chrono::seconds seconds = std::chrono::duration_cast<std::chrono::seconds>(delay);
+    itimerspec expiry {};
+    expiry.it_value.tv_sec = seconds.count();
+    expiry.it_value.tv_nsec = std::chrono::nanoseconds(delay - seconds).count();
+    const int timer = ::timerfd_create(CLOCK_MONOTONIC, TFD_CLOEXEC | TFD_NONBLOCK);
+    ::timerfd_settime(timer, 0, &expiry, nullptr);
+    auto *notifier = new QSocketNotifier(timer, QSocketNotifier::Read, context);
+    connect(notifier, &QObject::destroyed, [timer] { ::close(timer); });
+    connect(notifier, &QSocketNotifier::activated, context, [notifier, call] {
+        notifier->setEnabled(false);
+        notifier->deleteLater();
+        call();
+    });
 }
 
 void FakeMessagesServer::send(QTcpSocket *socket, const Reply &reply)

@@ -72,6 +72,7 @@ public:
 
 private:
     void accept();
+    static void callAfter(std::chrono::milliseconds delay, QObject *context, const std::function<void()> &call);
     void takeBytes(QTcpSocket *socket, int connection);
     void send(QTcpSocket *socket, const Reply &reply);
     void sendByteByByte(QTcpSocket *socket, const Reply &reply);
