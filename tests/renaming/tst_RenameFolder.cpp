@@ -179,14 +179,14 @@ public:
         : m_thread([this, disturb] {
             for (int round = 1; waitFor(m_round, round); ++round) {
                 disturb(round);
-                m_done = round;
+                tell(m_done, round);
             }
         })
     {
     }
     ~Rival()
     {
-        m_round = -1;
+        tell(m_round, -1);
         m_thread.join();
     }
     /// Every third round the rival is surely first, every third surely last; else the two meet as they may.
@@ -194,11 +194,11 @@ public:
     {
         const int order = round % 3;
         if (order != 1)
-            m_round = round;
+            tell(m_round, round);
         if (order == 0)
             waitFor(m_done, round);
         auto outcome = move();
-        m_round = round;
+        tell(m_round, round);
         waitFor(m_done, round);
         return outcome;
     }
@@ -206,9 +206,15 @@ public:
 private:
     static bool waitFor(const std::atomic<int> &value, int round)
     {
-        while (value >= 0 && value < round)
-            std::this_thread::yield();
-        return value >= 0;
+        int now = value;
+        for (; now >= 0 && now < round; now = value)
+            value.wait(now); // asleep: a busy machine would give a spinning thread its whole time slice
+        return now >= 0;
+    }
+    static void tell(std::atomic<int> &value, int round)
+    {
+        value = round;
+        value.notify_all();
     }
     std::atomic<int> m_round = 0;
     std::atomic<int> m_done = 0;
