@@ -11,30 +11,30 @@ namespace Varlo {
 
 namespace {
 
-    /// The disk as the moves planned so far would leave it.
-    class PlannedDisk {
-    public:
-        [[nodiscard]] bool isTaken(const std::filesystem::path &path) const
-        {
-            if (m_taken.contains(path.native()))
-                return true;
-            if (m_freed.contains(path.native()))
-                return false;
-            struct stat status { };
-            return ::lstat(path.c_str(), &status) == 0 || errno != ENOENT;
-        }
-        void move(const std::filesystem::path &from, const std::filesystem::path &to)
-        {
-            m_taken.erase(from.native());
-            m_freed.insert(from.native());
-            m_freed.erase(to.native());
-            m_taken.insert(to.native());
-        }
+/// The disk as the moves planned so far would leave it.
+class PlannedDisk {
+public:
+    [[nodiscard]] bool isTaken(const std::filesystem::path &path) const
+    {
+        if (m_taken.contains(path.native()))
+            return true;
+        if (m_freed.contains(path.native()))
+            return false;
+        struct stat status { };
+        return ::lstat(path.c_str(), &status) == 0 || errno != ENOENT;
+    }
+    void move(const std::filesystem::path &from, const std::filesystem::path &to)
+    {
+        m_taken.erase(from.native());
+        m_freed.insert(from.native());
+        m_freed.erase(to.native());
+        m_taken.insert(to.native());
+    }
 
-    private:
-        std::unordered_set<std::string> m_taken;
-        std::unordered_set<std::string> m_freed;
-    };
+private:
+    std::unordered_set<std::string> m_taken;
+    std::unordered_set<std::string> m_freed;
+};
 
 } // namespace
 

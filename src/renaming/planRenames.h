@@ -8,8 +8,8 @@
 
 namespace Varlo {
 
-/// The path that each request would lead to if they were carried out now, one after the other: numbers for names that are
-/// taken are already there. Changes nothing; what another program does meanwhile may still change the outcome.
+/// The path that each request would lead to if they were carried out now, one after the other: numbers for names that
+/// are taken are already there. Changes nothing; what another program does meanwhile may still change the outcome.
 [[nodiscard]] std::vector<FileRenamer::Outcome> planRenames(std::span<const RenameRequest> requests);
 
 } // namespace Varlo

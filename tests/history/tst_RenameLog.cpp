@@ -153,8 +153,8 @@ void RenameLogTest::survivesEveryFlip()
 
 void RenameLogTest::identifiesEntries()
 {
-    const RenameLogEntry entry { "/old", "/Volumes/Work/report.pdf", 730944000.5, std::nullopt };
-    QCOMPARE(entry.id(), u"/Volumes/Work/report.pdf@730944000.5"_s);
+    const RenameLogEntry entry { "/old", "/Volumes/Disk/report.pdf", 730944000.5, std::nullopt };
+    QCOMPARE(entry.id(), u"/Volumes/Disk/report.pdf@730944000.5"_s);
     // Two renames to one path within one tick of the clock.
     const auto process = start();
     for (const char *name : { "a.pdf", "b.pdf" })

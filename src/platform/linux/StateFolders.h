@@ -14,8 +14,8 @@ namespace Varlo {
 using Environment = std::map<std::string, std::string>;
 [[nodiscard]] Environment processEnvironment();
 
-/// Where Varlo keeps its own files, after the XDG base directory rules (freedesktop.org, 0.8). Absolute paths of folders of
-/// Varlo's own, which need not exist yet.
+/// Where Varlo keeps its own files, after the XDG base directory rules (freedesktop.org, 0.8). Absolute paths of
+/// folders of Varlo's own, which need not exist yet.
 struct StateFolders {
     std::filesystem::path config; ///< preferences
     std::filesystem::path data; ///< what cannot be made again: secrets where there is no keyring
