@@ -3,6 +3,7 @@
 #include "extraction/TextNormalizer.h"
 
 #include "extraction/normalizeExtractedText.h"
+#include "platform/Characters.h"
 #include <algorithm>
 #include <simdjson.h>
 
@@ -77,7 +78,17 @@ void TextNormalizer::keep(QByteArrayView utf8)
     const QChar *const end = m_decoder.appendToBuffer(begin, utf8);
     keepCollapsed({ begin, end });
     const bool isAscii = m_allUnits < 0x80;
-    m_hasEnough = m_line.size() >= (isAscii ? enoughAsciiUnits : enoughUnits);
+    m_hasEnough = isAscii ? m_line.size() >= enoughAsciiUnits : hasEnoughCharacters();
+}
+
+bool TextNormalizer::hasEnoughCharacters()
+{
+    if (m_line.size() >= enoughUnits)
+        return true;
+    if (m_line.size() < m_nextCount)
+        return false;
+    m_nextCount = 2 * m_line.size(); // counted seldom enough to cost less than the decoding
+    return countCharacters(m_line, mostTextCharacters + 1) > mostTextCharacters;
 }
 
 void TextNormalizer::keepCollapsed(QStringView text)

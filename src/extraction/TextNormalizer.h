@@ -3,6 +3,7 @@
 #pragma once
 
 #include "extraction/Extraction.h"
+#include "extraction/normalizeExtractedText.h"
 #include <array>
 #include <QByteArrayView>
 #include <QString>
@@ -29,6 +30,7 @@ private:
     bool appendWhole(QByteArrayView sequences);
     void keep(QByteArrayView utf8);
     void keepCollapsed(QStringView text);
+    bool hasEnoughCharacters();
 
     QStringDecoder m_decoder { QStringDecoder::Utf8 };
     QString m_decoded; // room for one piece, so that none is allocated for each
@@ -36,6 +38,7 @@ private:
     std::array<char, 4> m_split {}; // the sequence that the latest chunk ended in
     qsizetype m_splitSize = 0;
     char16_t m_allUnits = 0; // each unit of m_line, by "or"
+    qsizetype m_nextCount = mostTextCharacters + 1; // the units of m_line at which its characters are counted again
     bool m_isUtf8 = true;
     bool m_spaceIsDue = false;
     bool m_hasEnough = false;
