@@ -31,8 +31,21 @@ private:
     UBreakIterator *m_iterator = nullptr;
 };
 
+/// Whether a unit is a character of its own beside any other such unit, as nearly all are in most languages.
+static bool standsAlone(QChar unit)
+{
+    if (unit.unicode() < 0x80)
+        return unit != u'\r'; // CR LF is one character
+    return !unit.isSurrogate() && u_getIntPropertyValue(unit.unicode(), UCHAR_GRAPHEME_CLUSTER_BREAK) == U_GCB_OTHER;
+}
+
 qsizetype countCharacters(QStringView text, qsizetype limit)
 {
+    // Opening ICU's iterator takes as long as a hundred characters, and many texts come in short pieces. Behind the
+    // last unit looked at, accents may follow that belong to it.
+    const QStringView front = text.first(std::min(text.size(), limit));
+    if (std::all_of(front.begin(), front.end(), standsAlone))
+        return front.size();
     CharacterBorders borders(text);
     qsizetype count = 0;
     while (count < limit && borders.next() >= 0)

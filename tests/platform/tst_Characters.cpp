@@ -29,6 +29,7 @@ void CharactersTest::divides_data()
     QTest::newRow("Hangul from its letters") << u"\u1112\u1161\u11AB|\u1100\u1173\u11AF"_s;
     QTest::newRow("Hangul syllable with a final") << u"가\u11A8|각\u11A8|a|\u11A8\u11A8|가"_s;
     QTest::newRow("stacked accents") << u"e\u0301\u0323|n\u0303"_s;
+    QTest::newRow("units that stand alone, and one that does not") << u"é|漢|я|\u3042|я\u0483|x"_s;
     QTest::newRow("accents on nothing") << u"\n|\u0301|a"_s;
     QTest::newRow("line break of two units") << u"a|\r\n|\n|\r|b"_s;
     QTest::newRow("vowel sign that takes space") << u"कि|க்|ஷி"_s;
