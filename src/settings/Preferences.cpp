@@ -14,6 +14,7 @@ const PreferenceKey hasCompletedOnboarding { u"hasCompletedOnboarding"_s, Prefer
 const PreferenceKey writeFinderTags { u"writeFinderTags"_s, PreferenceType::Bool, false };
 const PreferenceKey watchFolderEnabled { u"watchFolderEnabled"_s, PreferenceType::Bool, false };
 const PreferenceKey watchFolderPath { u"watchFolderPath"_s, PreferenceType::String, QString() };
+const PreferenceKey watchFolderPathBytes { u"watchFolderPathBytes"_s, PreferenceType::Data, QByteArray() };
 const PreferenceKey watchFolderIncludeExisting { u"watchFolderIncludeExisting"_s, PreferenceType::Bool, false };
 const PreferenceKey templates { u"templates"_s, PreferenceType::Data, QByteArray() };
 const PreferenceKey renameLog { u"renameLog"_s, PreferenceType::Data, QByteArray() };
@@ -25,8 +26,8 @@ const PreferenceKey windowSize { u"windowSize"_s, PreferenceType::String, u"1080
 const QList<const PreferenceKey *> &all()
 {
     static const QList<const PreferenceKey *> keys { &uiLanguage, &settingsSelectedTab, &hasCompletedOnboarding,
-        &writeFinderTags, &watchFolderEnabled, &watchFolderPath, &watchFolderIncludeExisting, &templates, &renameLog,
-        &folderBookmarks, &endpoint, &model, &windowSize };
+        &writeFinderTags, &watchFolderEnabled, &watchFolderPath, &watchFolderPathBytes, &watchFolderIncludeExisting,
+        &templates, &renameLog, &folderBookmarks, &endpoint, &model, &windowSize };
     return keys;
 }
 

@@ -23,6 +23,7 @@ extern const PreferenceKey hasCompletedOnboarding;
 extern const PreferenceKey writeFinderTags; ///< ask for keyword tags, and write them when a file is renamed
 extern const PreferenceKey watchFolderEnabled;
 extern const PreferenceKey watchFolderPath; ///< absolute; "" for none
+extern const PreferenceKey watchFolderPathBytes; ///< the same where it is not UTF-8; see watchFolderPath()
 extern const PreferenceKey watchFolderIncludeExisting;
 extern const PreferenceKey templates; ///< JSON array of name templates
 extern const PreferenceKey renameLog; ///< JSON array of the renames made

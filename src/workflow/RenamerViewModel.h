@@ -67,6 +67,10 @@ public:
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
     [[nodiscard]] const FileItems &files() const { return m_files; }
+    [[nodiscard]] bool contains(const std::filesystem::path &path) const
+    {
+        return m_rowsByPath.contains(std::string_view(path.native()));
+    }
     [[nodiscard]] bool isSuggesting() const { return m_isSuggesting; }
     /// How long the latest complete suggestion run took.
     [[nodiscard]] std::optional<double> lastSuggestSeconds() const { return m_lastSuggestSeconds; }
