@@ -37,6 +37,17 @@ static bool matches(const RenameLog::Entry &entry, const QString &search)
         || shownPath(entry.toPath).contains(search, Qt::CaseInsensitive);
 }
 
+/// False, after a complaint, when renames may be missing from it.
+static bool isReadable(const RenameLog &log, Terminal &terminal)
+{
+    const std::optional<SystemError> error = log.readError();
+    if (error) {
+        terminal.complain(
+            QCoreApplication::translate("Terminal", "the history could not be read: %1").arg(error->description()));
+    }
+    return !error;
+}
+
 ExitCode run(const HistoryCommand &command, Session &session)
 {
     Terminal &terminal = session.terminal();
@@ -63,7 +74,7 @@ ExitCode run(const HistoryCommand &command, Session &session)
                 u""_s },
             rows);
     }
-    return ExitCode::Success;
+    return isReadable(session.renameLog(), terminal) ? ExitCode::Success : ExitCode::SomeFailed;
 }
 
 ExitCode run(const HistoryClearCommand &command, Session &session)
@@ -130,6 +141,8 @@ static bool undo(const QString &id, const UndoCommand &command, Session &session
 
 ExitCode run(const UndoCommand &command, Session &session)
 {
+    if (!isReadable(session.renameLog(), session.terminal()))
+        return ExitCode::SomeFailed;
     session.folderPanel().setMayAsk(session.terminal().canAsk());
     const std::vector<QString> ids = chosenIds(command, session.renameLog());
     if (ids.empty())

@@ -24,12 +24,16 @@ RenameLog::RenameLog(Preferences &preferences, FileRenamer &renamer, FolderAcces
 {
     connect(&preferences, &Preferences::changed, this, [this](const QString &name) {
         if (name == Preference::renameLog.name && !m_isStoring)
-            adopt(applyHistoryChanges(
-                decoded(m_preferences.data(Preference::renameLog)), m_renamer.journal().peek(maximumLogEntries)));
+            readWithoutSession();
     });
     if (m_renamer.journal().isEmpty() || !store())
-        adopt(applyHistoryChanges(
-            decoded(m_preferences.data(Preference::renameLog)), m_renamer.journal().peek(maximumLogEntries)));
+        readWithoutSession();
+}
+
+std::optional<SystemError> RenameLog::readError() const
+{
+    const auto preferencesError = m_preferences.readError();
+    return preferencesError ? preferencesError : m_journalError;
 }
 
 int RenameLog::rowCount(const QModelIndex &parent) const
@@ -168,6 +172,14 @@ void RenameLog::storeUnlessInAction()
     static_cast<void>(store());
 }
 
+void RenameLog::readWithoutSession()
+{
+    const auto changes = m_renamer.journal().peek(maximumLogEntries);
+    m_journalError = changes ? std::nullopt : std::optional(changes.error());
+    adopt(applyHistoryChanges(
+        decoded(m_preferences.data(Preference::renameLog)), changes.value_or(std::vector<HistoryChange> {})));
+}
+
 /// Puts what the journal has into the preferences, and then out of the journal.
 Result<void, SystemError> RenameLog::store()
 {
@@ -192,6 +204,7 @@ Result<void, SystemError> RenameLog::store()
     if (!stored || !kept)
         return stored ? kept : stored;
     m_foreignChangesSeen = journal.foreignChanges();
+    m_journalError.reset();
     // A list of files being renamed is ahead of its outcomes in the journal; its end comes through here again.
     if (!m_renamer.isRenaming())
         adopt(std::move(entries));
@@ -201,8 +214,9 @@ Result<void, SystemError> RenameLog::store()
 /// Within a session: takes over what another process stored. The preferences read the disk only when they are changed.
 void RenameLog::readAgain()
 {
-    if (m_foreignChangesSeen == m_renamer.journal().foreignChanges())
+    if (m_foreignChangesSeen == m_renamer.journal().foreignChanges() && !readError())
         return;
+    m_journalError.reset();
     m_foreignChangesSeen = m_renamer.journal().foreignChanges();
     const QScopedValueRollback isStoring(m_isStoring, true);
     static_cast<void>(
@@ -270,6 +284,8 @@ RenameLog::RevertAttempt RenameLog::attemptRevert(const QString &id)
         return tl::unexpected(RevertFailure(RenameFailure(HistoryNotWritable { session.error() })));
     readAgain();
     const auto entry = find(id);
+    if (entry == m_entries.end() && readError())
+        return tl::unexpected(RevertFailure(HistoryUnreadable { *readError() }));
     if (entry == m_entries.end() || !entry->isStanding())
         return std::nullopt;
     const path renamedPath = entry->toPath;
@@ -292,6 +308,10 @@ QString RenameLog::description(const RevertFailure &failure)
     return std::visit(Overloaded {
                           //: Error when a rename cannot be reverted because the file is gone
                           [](FileMissing) { return tr("The file could not be found at its renamed location."); },
+                          //: Error when a rename cannot be reverted; %1 is the system's reason
+                          [](const HistoryUnreadable &refusal) {
+                              return tr("The history could not be read: %1").arg(refusal.cause.description());
+                          },
                           [](const RenameFailure &refusal) { return Varlo::description(refusal); },
                       },
         failure);
@@ -328,26 +348,35 @@ QCoro::Task<RenameLog::RevertOutcome> RenameLog::revert(QString id)
 }
 
 /// The entry to take back; nothing when none stands.
-std::optional<QString> RenameLog::latestStanding()
+Result<std::optional<QString>, RenameLog::RevertFailure> RenameLog::latestStanding()
 {
-    if (const auto session = m_renamer.journal().enter())
-        readAgain();
+    const auto session = m_renamer.journal().enter();
+    if (!session)
+        return tl::unexpected(RevertFailure(RenameFailure(HistoryNotWritable { session.error() })));
+    readAgain();
     const auto newest
         = std::find_if(m_entries.rbegin(), m_entries.rend(), [](const Entry &entry) { return entry.isStanding(); });
-    return newest == m_entries.rend() ? std::nullopt : std::optional(newest->id());
+    if (newest != m_entries.rend())
+        return newest->id();
+    if (const auto error = readError())
+        return tl::unexpected(RevertFailure(HistoryUnreadable { *error }));
+    return std::nullopt;
 }
 
 QCoro::Task<RenameLog::RevertOutcome> RenameLog::revertLatest()
 {
     const QPointer<RenameLog> self = this;
-    std::optional<QString> id = latestStanding();
-    while (id) {
-        const RevertOutcome outcome = co_await revert(*id);
+    Result<std::optional<QString>, RevertFailure> latest = latestStanding();
+    while (latest && *latest) {
+        const QString id = **latest;
+        const RevertOutcome outcome = co_await revert(id);
         const bool isTakenByAnother = outcome && !*outcome;
         if (!isTakenByAnother || !self)
             co_return outcome;
-        id = latestStanding();
+        latest = latestStanding();
     }
+    if (!latest)
+        co_return tl::unexpected(description(latest.error()));
     co_return std::optional<path> {};
 }
 

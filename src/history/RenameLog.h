@@ -55,6 +55,8 @@ public:
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
     [[nodiscard]] const RenameLogEntries &entries() const { return m_entries; }
+    /// Why what was logged before could not be read, so that entries may be missing here; nothing when it was.
+    [[nodiscard]] std::optional<SystemError> readError() const;
 
     /// True when a standing rename led to this path, or to a file of the same name in another folder. In constant time.
     [[nodiscard]] bool hasStandingRename(const std::filesystem::path &path) const;
@@ -82,7 +84,10 @@ signals:
 
 private:
     struct FileMissing { };
-    using RevertFailure = std::variant<FileMissing, RenameFailure>;
+    struct HistoryUnreadable {
+        SystemError cause;
+    };
+    using RevertFailure = std::variant<FileMissing, HistoryUnreadable, RenameFailure>;
     struct Reverted {
         std::filesystem::path renamedPath;
         std::filesystem::path restoredPath;
@@ -92,13 +97,14 @@ private:
     [[nodiscard]] static QString description(const RevertFailure &failure);
     [[nodiscard]] RevertAttempt attemptRevert(const QString &id);
     [[nodiscard]] RevertOutcome announce(const RevertAttempt &attempt);
-    [[nodiscard]] std::optional<QString> latestStanding();
+    [[nodiscard]] Result<std::optional<QString>, RevertFailure> latestStanding();
     [[nodiscard]] RenameLogEntries::iterator find(const QString &id);
 
     void noteReported(const Entry &entry);
     void endAction();
     void storeUnlessInAction();
     [[nodiscard]] Result<void, SystemError> store();
+    void readWithoutSession();
     void readAgain();
     void adopt(RenameLogEntries entries);
     void append(Entry entry);
@@ -113,6 +119,7 @@ private:
     int m_openActions = 0;
     bool m_isStoring = false;
     quint64 m_foreignChangesSeen = 0;
+    std::optional<SystemError> m_journalError; ///< from reading it last
 };
 
 } // namespace Varlo

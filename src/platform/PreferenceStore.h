@@ -30,6 +30,9 @@ public:
     /// The stored value, or nothing when the key is absent or holds another kind of value.
     [[nodiscard]] virtual std::optional<PreferenceValue> value(const QString &key, PreferenceType type) const = 0;
 
+    /// Why what is stored could not be read when that was tried last: the values are missing then, not absent.
+    [[nodiscard]] virtual std::optional<SystemError> readError() const { return {}; }
+
     /// Reads the value as it is on disk now, lets `change` turn it into the one to store (nothing removes the key), and
     /// stores that, while no other process can do the same: what another one wrote a moment ago is never lost.
     using Change = std::function<std::optional<PreferenceValue>(std::optional<PreferenceValue> current)>;

@@ -232,12 +232,16 @@ std::vector<HistoryChange> RenameJournal::changes(std::size_t maximumAdditions) 
     return historyChanges(m_records, maximumAdditions);
 }
 
-std::vector<HistoryChange> RenameJournal::peek(std::size_t maximumAdditions) const
+Result<std::vector<HistoryChange>, SystemError> RenameJournal::peek(std::size_t maximumAdditions) const
 {
     if (m_depth > 0)
         return changes(maximumAdditions);
     const auto content = readStateFile(m_file, sizeLimit);
-    return content ? historyChanges(decodeJournal(*content).records, maximumAdditions) : std::vector<HistoryChange> {};
+    if (content)
+        return historyChanges(decodeJournal(*content).records, maximumAdditions);
+    if (content.error().kind == Kind::System)
+        return tl::unexpected(content.error().error);
+    return std::vector<HistoryChange> {};
 }
 
 static bool isLinkingMark(const JournalRecord &record, const std::vector<RenameIntent> &intents)

@@ -67,8 +67,10 @@ public:
 
     /// True when the file is missing or holds no record.
     [[nodiscard]] bool isEmpty() const;
-    /// The changes as another process may just be writing them; nothing is settled and nobody waits.
-    [[nodiscard]] std::vector<HistoryChange> peek(std::size_t maximumAdditions = allAdditions) const;
+    /// The changes as another process may just be writing them; nothing is settled and nobody waits. What only a
+    /// session can set aside reads as none.
+    [[nodiscard]] Result<std::vector<HistoryChange>, SystemError> peek(
+        std::size_t maximumAdditions = allAdditions) const;
     /// Grows whenever a session found that another process had written, or stored the history, since the last one.
     [[nodiscard]] quint64 foreignChanges() const { return m_foreignChanges; }
     [[nodiscard]] qint64 size() const { return m_size; }

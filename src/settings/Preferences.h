@@ -46,6 +46,9 @@ public:
     [[nodiscard]] QByteArray data(const PreferenceKey &key) const;
     [[nodiscard]] PreferenceDictionary dictionary(const PreferenceKey &key) const;
 
+    /// Why what is stored could not be read, and the defaults stand in for it; nothing when it was read.
+    [[nodiscard]] std::optional<SystemError> readError() const { return m_store.readError(); }
+
     [[nodiscard]] Result<void, SystemError> set(const PreferenceKey &key, const PreferenceValue &value);
     /// Changes the value as it is on disk now, with every other process kept out meanwhile. `change` sees the default
     /// where nothing is stored; giving that back stores nothing.

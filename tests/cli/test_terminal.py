@@ -185,6 +185,13 @@ class TerminalTest(unittest.TestCase):
         kept = [path for path in preferences.parent.iterdir() if path.name.startswith("preferences.damaged")]
         self.assertEqual([path.read_text() for path in kept], ['{"uiLanguage": "nl", '])
 
+    def test_history_that_cannot_be_read_is_not_called_empty(self):
+        (self.home / "config" / "varlo" / "preferences.json").mkdir(parents=True)
+        for command in (["history"], ["undo"], ["undo", "--last", "2"]):
+            run = self.varlo(*command, code=1)
+            self.assertIn(b"history could not be read", run.stderr)
+            self.assertEqual(run.stdout, b"")
+
     def test_rename_shows_numbers_and_can_be_taken_back(self):
         for name in ("a.txt", "b.txt"):
             self.write(name, "Minutes of the boat club\n\nEverybody came, and all were merry until late.")

@@ -11,6 +11,7 @@ class FakePreferenceStore final : public PreferenceStore {
 public:
     std::map<QString, PreferenceValue> values;
     std::optional<SystemError> failure; ///< what every attempt to store something answers
+    std::optional<SystemError> readFailure; ///< why no value can be read
     int copies = 0; ///< how often somebody asked for a copy of what is stored
     QStringList notices;
 
@@ -24,7 +25,7 @@ public:
     [[nodiscard]] std::optional<PreferenceValue> value(const QString &key, PreferenceType type) const override
     {
         const auto found = values.find(key);
-        if (found == values.end() || found->second.index() != static_cast<size_t>(type))
+        if (readFailure || found == values.end() || found->second.index() != static_cast<size_t>(type))
             return {};
         return found->second;
     }
@@ -32,8 +33,8 @@ public:
     [[nodiscard]] Result<void, SystemError> update(
         const QString &key, PreferenceType type, const Change &change) override
     {
-        if (failure)
-            return tl::unexpected(*failure);
+        if (failure || readFailure)
+            return tl::unexpected(failure ? *failure : *readFailure);
         const auto before = value(key, type);
         const auto after = change(before);
         if (after == before)
@@ -51,6 +52,7 @@ public:
         ++copies;
         return {};
     }
+    [[nodiscard]] std::optional<SystemError> readError() const override { return readFailure; }
     void observe() override { }
     [[nodiscard]] QStringList takeNotices() override { return std::exchange(notices, {}); }
 };

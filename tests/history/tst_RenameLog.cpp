@@ -74,6 +74,8 @@ private slots:
     void revertsToAFreeNumber();
     void refusesToRevert();
     void revertsLatest();
+    void tellsUnreadableFromEmpty_data();
+    void tellsUnreadableFromEmpty();
     void revertsOnceForTwoProcesses();
     void clearsForGood();
 
@@ -344,6 +346,36 @@ void RenameLogTest::revertsLatest()
     for (const char *name : { "b", "a" })
         QCOMPARE(restored(QCoro::waitFor(process->log.revertLatest())), std::optional<path>(*m_folder / name));
     QCOMPARE(restored(QCoro::waitFor(process->log.revertLatest())), std::optional<path>());
+}
+
+void RenameLogTest::tellsUnreadableFromEmpty_data()
+{
+    QTest::addColumn<bool>("arePreferencesRead");
+    QTest::addColumn<bool>("isJournalRead");
+    QTest::newRow("both read, nothing logged") << true << true;
+    QTest::newRow("preferences refused, no journal yet") << false << true;
+    QTest::newRow("journal refused") << true << false;
+}
+
+void RenameLogTest::tellsUnreadableFromEmpty()
+{
+    QFETCH(bool, arePreferencesRead);
+    QFETCH(bool, isJournalRead);
+    const path journal = *m_state / "renames.journal";
+    if (!arePreferencesRead)
+        m_store->readFailure = SystemError { EACCES };
+    if (!isJournalRead)
+        std::filesystem::create_symlink(journal, journal); // ELOOP, for root too
+    const auto process = start();
+    const bool isRead = arePreferencesRead && isJournalRead;
+    QCOMPARE(!process->log.readError(), isRead);
+    QCOMPARE(QCoro::waitFor(process->log.revertLatest()).has_value(), isRead);
+    QCOMPARE(QCoro::waitFor(process->log.revert(u"some id"_s)).has_value(), isRead);
+
+    m_store->readFailure.reset();
+    std::filesystem::remove(journal);
+    QVERIFY(QCoro::waitFor(process->log.revertLatest()));
+    QVERIFY2(!process->log.readError(), "it was read since");
 }
 
 void RenameLogTest::revertsOnceForTwoProcesses()

@@ -218,7 +218,7 @@ void FileRenamerTest::plansAnewBehindAFailedMove()
     QVERIFY(!outcomes[1] && outcomes[1].error() == RenameFailure(SystemError { EEXIST }));
     QVERIFY(outcomes[2] && outcomes[2]->filename() == "Other 2.pdf");
     QCOMPARE(TestFolder::content(*m_folder / "Other.pdf"), "another program's");
-    QCOMPARE(m_journal->peek().size(), 2u);
+    QCOMPARE(m_journal->peek()->size(), 2u);
 }
 
 void FileRenamerTest::stopsWhenTold()
@@ -234,7 +234,7 @@ void FileRenamerTest::stopsWhenTold()
     // The rest was noted down and is not waiting to be found by the next start.
     RenameJournal next(*m_state / "varlo");
     QVERIFY(next.enter());
-    QCOMPARE(next.peek().size(), 3u);
+    QCOMPARE(next.peek()->size(), 3u);
     QVERIFY(next.takeNotices().isEmpty());
 }
 
@@ -263,7 +263,7 @@ void FileRenamerTest::renamesALongList()
     });
     QCOMPARE(renamed, 99);
     QCOMPARE(m_folder->names().size(), 1000u);
-    QCOMPARE(m_journal->peek().size(), 99u);
+    QCOMPARE(m_journal->peek()->size(), 99u);
 }
 
 QTEST_GUILESS_MAIN(FileRenamerTest)

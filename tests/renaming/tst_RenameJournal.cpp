@@ -128,7 +128,7 @@ void RenameJournalTest::waitsForADriveThatIsAway()
     std::filesystem::rename(folder / "away", folder / "drive");
     RenameJournal journal(state.path());
     QVERIFY(journal.enter());
-    QCOMPARE(journal.peek().size(), 1u);
+    QCOMPARE(journal.peek()->size(), 1u);
 }
 
 void RenameJournalTest::hearsOfOtherProcesses()
@@ -147,7 +147,7 @@ void RenameJournalTest::hearsOfOtherProcesses()
     QVERIFY(ours.enter());
     QCOMPARE(ours.foreignChanges(), heard);
     QVERIFY(append(theirs, second));
-    QCOMPARE(ours.peek().size(), 2u);
+    QCOMPARE(ours.peek()->size(), 2u);
     QVERIFY(ours.enter());
     QVERIFY(ours.foreignChanges() > heard);
     {
@@ -206,7 +206,7 @@ void RenameJournalTest::survivesCuts()
         QVERIFY(journal.takeNotices().isEmpty());
         const JournalRecord next = RenameReported { "/x", "/y", 9 };
         QVERIFY(journal.append({ &next, 1 }, RenameJournal::Durability::Unsynced));
-        QCOMPARE(static_cast<qsizetype>(RenameJournal(state.path()).peek().size()), whole + 1);
+        QCOMPARE(static_cast<qsizetype>(RenameJournal(state.path()).peek()->size()), whole + 1);
     }
 }
 

@@ -168,8 +168,15 @@ Result<FileLock, SystemError> JsonPreferenceStore::lock() const
     return FileLock::acquire(lockFile);
 }
 
-/// What is on disk, or what stands in for it once a damaged file has been set aside.
 Result<QJsonObject, SystemError> JsonPreferenceStore::readUnderLock()
+{
+    auto values = readOrReplace();
+    m_readError = values ? std::nullopt : std::optional(values.error());
+    return values;
+}
+
+/// What is on disk, or what stands in for it once a damaged file has been set aside.
+Result<QJsonObject, SystemError> JsonPreferenceStore::readOrReplace()
 {
     const auto content = readStateFile(m_file, sizeLimit);
     if (!content && isAbsence(content.error()))
@@ -270,10 +277,13 @@ void JsonPreferenceStore::load()
     } else if (!isDamage(content.error())) {
         if (content.error().kind != StateFileError::Kind::Missing)
             noticeUnreadable(content.error());
+        if (!isAbsence(content.error()))
+            m_readError = systemError(content.error());
         return;
     }
     const auto held = lock();
     if (!held) {
+        m_readError = held.error();
         notice(QCoreApplication::translate("JsonPreferenceStore", "The settings in \"%1\" are damaged: %2")
                    .arg(shownPath(m_file), held.error().description()));
         return;
@@ -327,6 +337,7 @@ void JsonPreferenceStore::reload()
     const auto values = content ? parse(*content) : QJsonObject();
     if (!values)
         return;
+    m_readError.reset();
     const QSet<QString> changedKeys = adopt(*values);
     for (const QString &key : changedKeys)
         emit changed(key);

@@ -31,6 +31,7 @@ public:
     [[nodiscard]] std::optional<PreferenceValue> value(const QString &key, PreferenceType type) const override;
     /// Errors beyond the system's: EAGAIN when another process kept the lock for 5 seconds, EFBIG when the file would
     /// exceed `sizeLimit`.
+    [[nodiscard]] std::optional<SystemError> readError() const override { return m_readError; }
     [[nodiscard]] Result<void, SystemError> update(
         const QString &key, PreferenceType type, const Change &change) override;
     [[nodiscard]] Result<void, SystemError> keepCopy() override;
@@ -40,6 +41,7 @@ public:
 private:
     [[nodiscard]] Result<FileLock, SystemError> lock() const;
     [[nodiscard]] Result<QJsonObject, SystemError> readUnderLock();
+    [[nodiscard]] Result<QJsonObject, SystemError> readOrReplace();
     [[nodiscard]] Result<void, SystemError> updateUnderLock(
         const QString &key, PreferenceType type, const Change &change, QSet<QString> &changedKeys);
     [[nodiscard]] Result<void, SystemError> write(const QJsonObject &values);
@@ -54,6 +56,7 @@ private:
 
     std::filesystem::path m_file;
     QJsonObject m_values; ///< as read or written last
+    std::optional<SystemError> m_readError;
     bool m_isLocked = false; ///< by a call further up the stack
     bool m_hasCopied = false;
     QFileSystemWatcher *m_watcher = nullptr;
