@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/linux/MappedFile.h"
+
+#include <sys/mman.h>
+#include <sys/stat.h>
+
+namespace Varlo {
+
+MappedFile::MappedFile(const FileDescriptor &file)
+{
+    struct stat status { };
+    if (::fstat(file.get(), &status) != 0 || status.st_size <= 0)
+        return;
+    void *const address = ::mmap(nullptr, static_cast<size_t>(status.st_size), PROT_READ, MAP_PRIVATE, file.get(), 0);
+    if (address != MAP_FAILED)
+        m_bytes = QByteArrayView(static_cast<const char *>(address), status.st_size);
+}
+
+MappedFile::~MappedFile()
+{
+    if (!m_bytes.isEmpty())
+        ::munmap(const_cast<char *>(m_bytes.data()), static_cast<size_t>(m_bytes.size()));
+}
+
+} // namespace Varlo
