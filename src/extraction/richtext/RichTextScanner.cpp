@@ -4,6 +4,7 @@
 
 #include "platform/linux/retryInterrupted.h"
 #include <algorithm>
+#include <cerrno>
 #include <limits>
 #include <unistd.h>
 
@@ -38,6 +39,11 @@ bool RichTextScanner::fill()
 {
     if (m_hasFailed)
         return false;
+    // Holes are zeros, which have no meaning. A file system that cannot tell answers with an error of its own.
+    const off_t data = ::lseek(m_file.get(), m_offset, SEEK_DATA);
+    if (data < 0 && errno == ENXIO)
+        return false;
+    m_offset = std::max<qint64>(m_offset, data);
     const ssize_t count
         = retryInterrupted([this] { return ::pread(m_file.get(), m_chunk.data(), m_chunk.size(), m_offset); });
     m_hasFailed = count < 0;
@@ -71,6 +77,10 @@ bool RichTextScanner::startsWith(std::string_view bytes)
 RichTextToken RichTextScanner::next()
 {
     while (const auto byte = peek()) {
+        if (isFiller(*byte)) {
+            m_at = std::find_if_not(m_at, m_end, isFiller);
+            continue;
+        }
         if (isPlainText(*byte))
             return scanText();
         ++m_at;
@@ -78,8 +88,7 @@ RichTextToken RichTextScanner::next()
             return scanControl();
         if (*byte == '{')
             return GroupStart {};
-        if (*byte == '}')
-            return GroupEnd {};
+        return GroupEnd {};
     }
     return EndOfFile {};
 }
