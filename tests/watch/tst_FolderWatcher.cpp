@@ -73,7 +73,10 @@ struct Watched {
     /// The events so far are taken and then the folder has been quiet for long enough.
     void letTimePass() const
     {
-        QCoreApplication::processEvents();
+        do {
+            timer().stop();
+            QCoreApplication::processEvents();
+        } while (timer().isActive()); // there were events
         timer().start(0);
     }
     /// What is reported up to now, all in one.
@@ -234,8 +237,9 @@ void FolderWatcherTest::reportsALargeFolderAtOnce()
 {
     Watched test;
     QVERIFY(test.watcher->start(test.folder, false));
-    for (int i = 0; i < 6000; ++i) // three events each: more than a queue holds by default
-        make(test.folder / (std::to_string(i) + ".txt"));
+    make(test.root / "a.txt");
+    for (int i = 0; i < 6000; ++i) // links are much faster made than files
+        std::filesystem::create_hard_link(test.root / "a.txt", test.folder / (std::to_string(i) + ".txt"));
     QCOMPARE(test.nextReport().size(), 6000U);
 }
 
