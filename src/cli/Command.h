@@ -91,7 +91,7 @@ struct ConfigGetCommand {
 };
 struct ConfigSetCommand {
     QString key;
-    QString value;
+    std::string value; ///< as given: it may be a path
 };
 enum class KeyAction { Status, Set, Remove };
 struct KeyCommand {

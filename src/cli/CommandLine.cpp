@@ -334,7 +334,7 @@ void CommandLine::describeSettings()
             values.command = [&values] { return ConfigGetCommand { QString::fromStdString(values.key) }; };
         } else if (config->got_subcommand(set)) {
             values.command = [&values] {
-                return ConfigSetCommand { QString::fromStdString(values.key), QString::fromStdString(values.value) };
+                return ConfigSetCommand { QString::fromStdString(values.key), values.value };
             };
         } else {
             values.command = [] { return ConfigListCommand {}; };

@@ -4,6 +4,8 @@
 #include "cli/commands.h"
 #include "cli/FileArgumentList.h"
 #include "cli/terminalText.h"
+#include "platform/shownPath.h"
+#include "settings/watchFolderPath.h"
 #include <array>
 #include <QCoreApplication>
 
@@ -45,9 +47,16 @@ static QString shownValue(const PreferenceKey &key, Session &session)
     return session.preferences().string(key);
 }
 
-/// The value that the words stand for, or why they stand for none.
-static Result<PreferenceValue, QString> parseValue(const PreferenceKey &key, const QString &words)
+/// Empty for "", which stands for no folder.
+static std::filesystem::path folderArgument(const std::string &argument)
 {
+    return argument.empty() ? std::filesystem::path() : resolvedArgument(argument);
+}
+
+/// The value that the argument stands for, or why it stands for none.
+static Result<PreferenceValue, QString> parseValue(const PreferenceKey &key, const std::string &argument)
+{
+    const QString words = QString::fromStdString(argument);
     if (key.type == PreferenceType::Bool) {
         if (words == "true"_L1 || words == "yes"_L1 || words == "on"_L1)
             return PreferenceValue(true);
@@ -62,12 +71,12 @@ static Result<PreferenceValue, QString> parseValue(const PreferenceKey &key, con
         if (!endpoint)
             return tl::unexpected(description(endpoint.error()));
     }
-    if (&key == &Preference::watchFolderPath && !words.isEmpty()) {
-        const std::filesystem::path folder = resolvedArgument(words.toStdString());
+    if (&key == &Preference::watchFolderPath) {
+        const std::filesystem::path folder = folderArgument(argument);
         std::error_code error;
-        if (!std::filesystem::is_directory(folder, error))
+        if (!folder.empty() && !std::filesystem::is_directory(folder, error))
             return tl::unexpected(QCoreApplication::translate("Terminal", "is a folder that exists"));
-        return PreferenceValue(QString::fromStdString(folder.native()));
+        return PreferenceValue(shownPath(folder));
     }
     return PreferenceValue(words);
 }
@@ -99,7 +108,9 @@ ExitCode run(const ConfigSetCommand &command, Session &session)
         terminal.complain(key->name + u": "_s + value.error());
         return ExitCode::WrongUsage;
     }
-    const Result<void, SystemError> stored = session.preferences().set(*key, *value);
+    const Result<void, SystemError> stored = key == &Preference::watchFolderPath
+        ? setWatchFolderPath(session.preferences(), folderArgument(command.value))
+        : session.preferences().set(*key, *value);
     session.tellNotices();
     if (stored)
         return ExitCode::Success;

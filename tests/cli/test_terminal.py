@@ -175,6 +175,11 @@ class TerminalTest(unittest.TestCase):
         for key, value in (("uiLanguage", "fr"), ("writeFinderTags", "perhaps"), ("endpoint", "ftp://models.example"),
                            ("watchFolderPath", "/nonexistent")):
             self.varlo("config", "set", key, value, code=2)
+        folder = os.path.join(os.fsencode(self.files), b"caf\xe9")
+        os.mkdir(folder)
+        self.varlo("config", "set", "watchFolderPath", folder)
+        stored = json.loads((self.home / "config" / "varlo" / "preferences.json").read_text())
+        self.assertEqual(base64.b64decode(stored["watchFolderPathBytes"]), folder)
 
     def test_damaged_preferences_are_set_aside_and_told_once(self):
         preferences = self.home / "config" / "varlo" / "preferences.json"
