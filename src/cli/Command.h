@@ -45,6 +45,12 @@ struct RenameCommand {
     bool yes = false; ///< nothing is asked; a question for access to a folder is declined
     bool dryRun = false;
 };
+struct WatchCommand {
+    NamingOptions naming;
+    std::filesystem::path folder; ///< as given
+    bool includeExisting = false; ///< files already there count as new
+    bool json = false;
+};
 struct HistoryCommand {
     QString search; ///< part of an old or new path; "" for all
     bool json = false;
@@ -109,7 +115,7 @@ struct ShowTextCommand {
 };
 
 /// One call of `varlo`, understood.
-using Command = std::variant<OpenCommand, SuggestCommand, RenameCommand, ExtractCommand, HistoryCommand,
+using Command = std::variant<OpenCommand, SuggestCommand, RenameCommand, WatchCommand, ExtractCommand, HistoryCommand,
     HistoryClearCommand, UndoCommand, FoldersListCommand, FoldersAddCommand, FoldersRemoveCommand, TemplatesListCommand,
     TemplatesAddCommand, TemplatesEditCommand, TemplatesRemoveCommand, ConfigListCommand, ConfigGetCommand,
     ConfigSetCommand, KeyCommand, FormatsCommand, DoctorCommand, ShowTextCommand>;

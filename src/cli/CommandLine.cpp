@@ -22,6 +22,8 @@ struct CommandLine::Values {
     bool json = false;
     bool yes = false;
     bool dryRun = false;
+    std::string folder;
+    bool includeExisting = false;
     std::string search;
     int last = 1;
     std::string id;
@@ -125,6 +127,11 @@ void CommandLine::addNamingOptions(CLI::App &app)
     app.add_option("--model", values.model, "The model asked for at the endpoint")->type_name("ID");
     app.add_option("--endpoint", values.endpoint, "Base address of the Messages interface")->type_name("URL");
     addJsonFlag(app);
+}
+
+void CommandLine::addFileArguments(CLI::App &app)
+{
+    Values &values = *m_values;
     app.add_option("--files0-from", values.files0From, "Take more paths, each ended by NUL, from a file or from -")
         ->type_name("FILE");
     addArguments(app, "FILE", values.files, "Files, and folders to look through");
@@ -159,6 +166,7 @@ void CommandLine::describeNaming()
     Values &values = *m_values;
     CLI::App *suggest = addCommand(*m_app, "suggest", "Suggest names; changes nothing on disk");
     addNamingOptions(*suggest);
+    addFileArguments(*suggest);
     suggest->footer(
         "With --json each object has path, status, name (without the extension; empty where there is none),\n"
         "extension and tags, and message where the status is failed.\n"
@@ -176,6 +184,7 @@ void CommandLine::describeNaming()
 
     CLI::App *rename = addCommand(*m_app, "rename", "Suggest names, show the plan, ask, and rename");
     addNamingOptions(*rename);
+    addFileArguments(*rename);
     rename->add_flag("--yes", values.yes, "Do not ask; a question for access to a folder is declined");
     rename->add_flag("-n,--dry-run", values.dryRun, "Show the plan and change nothing");
     rename->footer("With --json each object is as for suggest; a renamed file has newPath as well.\n"
@@ -189,6 +198,24 @@ void CommandLine::describeNaming()
     rename->callback([this, &values, rename] {
         const RenameCommand command { namingOptions(*rename), fileArguments(*rename), values.json, values.yes,
             values.dryRun };
+        values.command = [command] { return command; };
+    });
+
+    CLI::App *watch = addCommand(*m_app, "watch", "Suggest names for new files of a folder as they arrive");
+    addNamingOptions(*watch);
+    watch->add_flag("--include-existing", values.includeExisting, "Begin with the files that are there already");
+    watch->add_option("FOLDER", values.folder, "Which folder; what lies in folders below it is left alone")->required();
+    watch->footer(
+        "Nothing is renamed. A file is taken once the folder has been quiet for 0.8 seconds. Ctrl-C ends the watch.\n"
+        "What other machines put on a network drive is not noticed. JSON objects are as for suggest.\n"
+        "\n"
+        "Examples:\n"
+        "  # Names for whatever the scanner leaves\n"
+        "  varlo watch ~/Scans\n"
+        "  # As one JSON object a line, for a script, and without the network\n"
+        "  varlo watch --offline --include-existing --json ~/Downloads");
+    watch->callback([this, &values, watch] {
+        const WatchCommand command { namingOptions(*watch), values.folder, values.includeExisting, values.json };
         values.command = [command] { return command; };
     });
 }

@@ -41,6 +41,7 @@ private:
     void describeSettings();
     CLI::App *addCommand(CLI::App &parent, const std::string &name, const std::string &summary);
     void addNamingOptions(CLI::App &app);
+    void addFileArguments(CLI::App &app);
     [[nodiscard]] NamingOptions namingOptions(const CLI::App &app) const;
     [[nodiscard]] FileArguments fileArguments(const CLI::App &app) const;
     void addJsonFlag(CLI::App &app);

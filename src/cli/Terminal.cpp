@@ -81,14 +81,20 @@ static void shrink(std::vector<int> &widths, int available)
 
 void Terminal::printTable(const QStringList &headings, const std::vector<TableRow> &rows)
 {
-    constexpr int gap = 2;
-    const auto columnCount = static_cast<std::size_t>(headings.size());
     std::vector<TableRow> lines;
     lines.emplace_back();
     for (const QString &heading : headings)
         lines.back().push_back({ heading, Colour::Dim });
     lines.insert(lines.end(), rows.begin(), rows.end());
+    write(layOut(lines).toUtf8());
+}
 
+void Terminal::printRow(const TableRow &row) { write(layOut({ row }).toUtf8()); }
+
+QString Terminal::layOut(const std::vector<TableRow> &lines) const
+{
+    constexpr int gap = 2;
+    const std::size_t columnCount = lines.front().size();
     std::vector<int> widths(columnCount, 0);
     for (const TableRow &line : lines) {
         for (std::size_t column = 0; column < columnCount; ++column)
@@ -109,7 +115,7 @@ void Terminal::printTable(const QStringList &headings, const std::vector<TableRo
             out.chop(1);
         out += u'\n';
     }
-    write(out.toUtf8());
+    return out;
 }
 
 void Terminal::complain(const QString &message) { inform(u"varlo: "_s + message); }

@@ -30,6 +30,8 @@ public:
     void printJson(const QJsonObject &object);
     /// Rows below a heading, in columns as wide as they need; on a terminal the widest ones are cut to fit.
     void printTable(const QStringList &headings, const std::vector<TableRow> &rows);
+    /// One row without a heading, for rows that come one at a time; cut as those of a table.
+    void printRow(const TableRow &row);
     /// "varlo: message" on standard error.
     void complain(const QString &message);
     /// The message on standard error.
@@ -46,6 +48,7 @@ public:
 
 private:
     void write(const QByteArray &bytes);
+    [[nodiscard]] QString layOut(const std::vector<TableRow> &lines) const;
     [[nodiscard]] QString coloured(const QString &text, Colour colour) const;
 
     int m_columns = 0; // of standard output; 0 where it is no terminal

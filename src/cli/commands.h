@@ -12,6 +12,7 @@ namespace Varlo {
 [[nodiscard]] ExitCode run(const OpenCommand &command, Session &session);
 [[nodiscard]] ExitCode run(const SuggestCommand &command, Session &session);
 [[nodiscard]] ExitCode run(const RenameCommand &command, Session &session);
+[[nodiscard]] ExitCode run(const WatchCommand &command, Session &session);
 [[nodiscard]] ExitCode run(const HistoryCommand &command, Session &session);
 [[nodiscard]] ExitCode run(const HistoryClearCommand &command, Session &session);
 [[nodiscard]] ExitCode run(const UndoCommand &command, Session &session);

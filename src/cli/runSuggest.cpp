@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/commands.h"
 #include "cli/FileArgumentList.h"
+#include "cli/suggestionCell.h"
 #include "cli/suggestNames.h"
 #include "cli/terminalText.h"
 #include <algorithm>
@@ -10,26 +11,6 @@
 namespace Varlo {
 
 using namespace Qt::StringLiterals;
-
-static TableCell suggestionCell(const FileItem &item)
-{
-    const auto statusCell = [&item](Colour colour) { return TableCell { label(item.status), colour }; };
-    return std::visit(Overloaded {
-                          [&](FileItem::Suggested) {
-                              return TableCell { terminalText(suggestedFileName(item)), Colour::Green };
-                          },
-                          [](const FileItem::Failed &failed) {
-                              return TableCell { terminalMessage(failed.message), Colour::Red };
-                          },
-                          [&](FileItem::Pending) { return statusCell(Colour::Dim); },
-                          [&](FileItem::Processing) { return statusCell(Colour::Dim); },
-                          [&](FileItem::Renamed) { return statusCell(Colour::Dim); },
-                          [&](FileItem::AlreadyRenamed) { return statusCell(Colour::Dim); },
-                          [&](FileItem::NoTextFound) { return statusCell(Colour::Yellow); },
-                          [&](FileItem::NotSupportedYet) { return statusCell(Colour::Yellow); },
-                      },
-        item.status);
-}
 
 static void printTable(const FileItems &items, Terminal &terminal)
 {

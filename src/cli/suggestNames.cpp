@@ -36,16 +36,21 @@ QJsonObject toJson(const FileItem &item)
 
 bool hasFailed(const FileItem &item) { return std::holds_alternative<FileItem::Failed>(item.status); }
 
-static bool lacksKey(const FileItem &item)
+bool lacksKey(const FileItem &item)
 {
     const auto *failed = std::get_if<FileItem::Failed>(&item.status);
     return failed && failed->message == description(MissingAPIKey {});
 }
 
-/// Nothing is half done while names are suggested, so an interrupt may end the process where it stands.
-static void exitOnInterrupt()
+void adviseOnKey(Terminal &terminal)
 {
-    std::signal(SIGINT, [](int) { ::_exit(static_cast<int>(ExitCode::Interrupted)); });
+    terminal.complain(QCoreApplication::translate("Terminal",
+        "store a key with `varlo key set`, or use --offline; a model server on this machine takes any key"));
+}
+
+void exitOn(int signal)
+{
+    std::signal(signal, [](int) { ::_exit(static_cast<int>(ExitCode::Interrupted)); });
 }
 
 /// Sets what holds for this call; false after a complaint.
@@ -72,18 +77,25 @@ static void complainOfRefused(
     }
 }
 
-std::optional<NamedBatch> suggestNames(const NamingOptions &naming, const FileArguments &arguments, Session &session,
-    const std::function<void(const FileItem &)> &whenDone)
+std::unique_ptr<RenamerViewModel> makeBatch(const NamingOptions &naming, Session &session)
 {
-    Terminal &terminal = session.terminal();
     NameSuggestionService *suggester = session.suggester(naming);
     if (!suggester || !applyOptions(naming, session))
         return {};
-    exitOnInterrupt();
-
+    exitOn(SIGINT);
     auto batch = session.makeBatch(*suggester);
     batch->setFilenameLanguageOption(naming.language);
     batch->setSelectedTemplateID(naming.templateId);
+    return batch;
+}
+
+std::optional<NamedBatch> suggestNames(const NamingOptions &naming, const FileArguments &arguments, Session &session,
+    const std::function<void(const FileItem &)> &whenDone)
+{
+    std::unique_ptr<RenamerViewModel> batch = makeBatch(naming, session);
+    if (!batch)
+        return {};
+    Terminal &terminal = session.terminal();
     const FileArgumentList list = lookAt(arguments, true);
     complainOfRefused(list, terminal, whenDone);
     QCoro::waitFor(batch->addFiles(list.paths, true));
@@ -104,10 +116,8 @@ std::optional<NamedBatch> suggestNames(const NamingOptions &naming, const FileAr
     });
     QCoro::waitFor(batch->suggestAll());
     QObject::disconnect(connection);
-    if (std::ranges::any_of(batch->files(), lacksKey)) {
-        terminal.complain(QCoreApplication::translate("Terminal",
-            "store a key with `varlo key set`, or use --offline; a model server on this machine takes any key"));
-    }
+    if (std::ranges::any_of(batch->files(), lacksKey))
+        adviseOnKey(terminal);
     return NamedBatch { std::move(batch), !list.refused.empty() };
 }
 

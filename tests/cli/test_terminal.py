@@ -6,14 +6,17 @@
 usage: test_terminal.py VARLO FAKE_SERVER [unittest argument...]
 """
 import base64
+import contextlib
 import json
 import os
 import pathlib
 import pty
+import re
 import signal
 import subprocess
 import sys
 import tempfile
+import threading
 import time
 import unittest
 
@@ -263,6 +266,104 @@ class TerminalTest(unittest.TestCase):
         self.assertEqual(len(list(self.files.iterdir())), 3000)
         self.varlo("undo", "--last", str(len(history)))
         self.assertEqual(len(list(self.files.glob("[0-9][0-9][0-9][0-9].txt"))), 3000 - renamed + len(history))
+
+    @contextlib.contextmanager
+    def watch(self, *arguments, **options):
+        """A watch that has begun; what it prints comes line by line."""
+        with subprocess.Popen([VARLO, "watch", *arguments, str(self.files)], stdout=subprocess.PIPE,
+                              stderr=subprocess.PIPE, env=self.environment, **options) as run:
+            timer = threading.Timer(120, run.kill)
+            timer.start()
+            try:
+                self.assertIn(b"Watching", run.stderr.readline())
+                yield run
+            finally:
+                timer.cancel()
+                run.kill()
+
+    def test_watch_tells_of_each_new_file(self):
+        self.write("old.txt")
+        with self.watch("--offline", "--json") as run:
+            os.mkfifo(self.files / "a.txt")
+            self.write(b"caf\xe9.txt")
+            lines = [json.loads(run.stdout.readline()) for _ in range(2)]
+            self.assertEqual({line["status"] for line in lines}, {"failed", "suggested"})
+            self.write("next.txt")  # the failure has not ended it
+            self.assertEqual(json.loads(run.stdout.readline())["path"], str(self.files / "next.txt"))
+            run.send_signal(signal.SIGINT)
+            self.assertEqual(run.wait(), 130)
+            self.assertEqual((run.stdout.read(), run.stderr.read()), (b"", b""))
+        with self.watch("--offline", "--include-existing", cwd=self.files) as run:
+            lines = sorted(run.stdout.readline() for _ in range(4))
+            self.assertRegex(lines[0], "^a.txt  →  This is not".encode())
+            self.assertRegex(lines[3], "^old.txt  →  .*\\.txt$".encode())
+            run.send_signal(signal.SIGTERM)
+            self.assertEqual(run.wait(), 130)
+        self.assertEqual(len(list(self.files.iterdir())), 4)
+
+    def test_watch_takes_a_slow_copy_once_and_whole(self):
+        with self.watch("--offline", "--json") as run:
+            for attempt in range(20):
+                with open(self.files / f"{attempt}.eml", "wb", buffering=0) as file:
+                    longest_gap, last = 0, time.monotonic()
+                    for part in [b"From: Ann <ann@example.org>\n", b"Date: Fri, 14 Mar 2025 10:00:00 +0100\n",
+                                 *[b"X-Filler: filled\n"] * 60, b"Subject: Moorings for the summer\n",
+                                 b"\nThe boats go in on the first of May."]:
+                        file.write(part)
+                        time.sleep(0.02)
+                        longest_gap, last = max(longest_gap, time.monotonic() - last), time.monotonic()
+                line = json.loads(run.stdout.readline())
+                self.assertEqual(line["path"], str(self.files / f"{attempt}.eml"))
+                if longest_gap < 0.4:
+                    break  # otherwise the machine stood still so long that the copy looked finished
+            else:
+                self.fail("the machine is too busy to copy anything at a steady pace")
+            self.assertIn("Moorings for the summer", line["name"])
+            self.write("last.txt")
+            self.assertEqual(json.loads(run.stdout.readline())["path"], str(self.files / "last.txt"))
+
+    def test_watch_ends_by_itself_without_a_folder_or_a_reader(self):
+        with self.watch("--offline") as run:
+            self.files.rename(self.files.parent / "moved")
+            self.assertEqual(run.wait(), 1)
+            self.assertIn(str(self.files).encode(), run.stderr.read())
+        self.assertIn(str(self.files).encode(), self.varlo("watch", "--offline", str(self.files), code=1).stderr)
+        self.varlo("watch", "--offline", code=2)
+        self.files.mkdir()
+        for number in range(3):
+            self.write(f"{number}.txt")
+        with open("/dev/full", "wb") as full:
+            run = subprocess.run([VARLO, "watch", "--offline", "--include-existing", str(self.files)],
+                                 env=self.environment, stdout=full, stderr=subprocess.PIPE, timeout=60)
+            self.assertEqual(run.returncode, 1, run.stderr)
+
+    def test_watch_advises_on_the_key_once(self):
+        with self.watch("--include-existing", "--endpoint", self.server()) as run:
+            for name in ("a.txt", "b.txt", "c.txt"):
+                self.write(name)
+            for _ in range(3):
+                self.assertIn(b"No API key set.", run.stdout.readline())
+            run.send_signal(signal.SIGINT)
+            self.assertEqual(run.wait(), 130)
+            self.assertEqual(run.stderr.read().count(b"varlo key set"), 1)
+
+    def test_watch_changes_nothing_but_its_state(self):
+        self.write("a.txt")
+        trace = self.home / "trace"
+        changing = ("rename,renameat,renameat2,unlink,unlinkat,link,linkat,mkdir,mkdirat,truncate,chmod,fchmodat,"
+                    "setxattr,openat,creat")
+        with subprocess.Popen(["strace", "-f", "-qq", "-e", f"trace={changing}", "-o", str(trace), VARLO, "watch",
+                               "--offline", "--include-existing", str(self.files)], stdout=subprocess.PIPE,
+                              stderr=subprocess.DEVNULL,
+                              env=self.environment | {"ASAN_OPTIONS": "detect_leaks=0"}) as run:
+            self.assertIn(b"a.txt", run.stdout.readline())
+            self.files.rename(self.files.parent / "moved")  # ends it, and with it strace
+            self.assertEqual(run.wait(timeout=50), 1)
+        calls = trace.read_text().splitlines()
+        self.assertTrue(any("a.txt" in call for call in calls))
+        changes = [call for call in calls if str(self.home) not in call and "/dev/" not in call
+                   and not re.search(r"openat\(.*O_RDONLY|openat\(.*O_PATH|\+\+\+|---", call)]
+        self.assertEqual(changes, [])
 
     def test_folders(self):
         self.varlo("folders", "add", str(self.files), "/nonexistent", code=1)

@@ -17,6 +17,7 @@ private slots:
     void takesTags();
     void takesTemplate();
     void opensWithoutWords();
+    void watchesOneFolder();
     void refuses_data();
     void refuses();
     void showsHelpOfItsOwn();
@@ -84,6 +85,16 @@ void CommandLineTest::opensWithoutWords()
     QVERIFY(command && std::get<OpenCommand>(*command).files.empty());
 }
 
+void CommandLineTest::watchesOneFolder()
+{
+    CommandLine commandLine;
+    const auto command = commandLine.parse(Words { "watch", "--offline", "[caf\xe9]", "--include-existing" });
+    QVERIFY2(command, command ? "" : command.error().message.c_str());
+    const auto &watch = std::get<WatchCommand>(*command);
+    QCOMPARE(watch.folder.native(), std::string("[caf\xe9]"));
+    QVERIFY(watch.includeExisting && watch.naming.offline && !watch.json);
+}
+
 void CommandLineTest::refuses_data()
 {
     QTest::addColumn<Words>("words");
@@ -100,6 +111,8 @@ void CommandLineTest::refuses_data()
     row("field", { "templates", "add", "date", "colour" }, { u"colour"_s, u"vendor"_s });
     row("value left out", { "suggest", "a", "--template" }, { u"--template"_s });
     row("no file", { "suggest", "--offline" }, { u"FILE"_s, u"`varlo suggest --help`"_s });
+    row("two folders to watch", { "watch", "a", "b" }, { u"\"b\""_s, u"`varlo watch --help`"_s });
+    row("no folder to watch", { "watch", "--json" }, { u"FOLDER"_s });
     row("-- named", { "config", "get", "a", "--", "b" }, { u"\"b\""_s });
     row("word too many", { "config", "get", "a", "b" }, { u"\"b\""_s, u"`varlo config get --help`"_s });
 }
