@@ -21,12 +21,14 @@ struct PictureHeader {
     PixelLayout layout = PixelLayout::RGB;
     QByteArray colourProfile = {}; ///< an ICC profile that says what the samples mean; empty means sRGB
     double pixelAspect = 1; ///< width of one pixel divided by its height
+    bool isBottomUp = false; ///< the last row comes first
+    bool isRightToLeft = false; ///< the last pixel of each row comes first
 };
 
-/// Takes a picture from its decoder: the header, then every row from top to bottom.
+/// Takes a picture from its decoder: the header, then every row.
 struct PictureRows {
     virtual ~PictureRows() = default;
-    /// False where the picture is not wanted (a size of nothing, a pointless one); the decoder then stops.
+    /// False where the picture is not wanted (too large, or nothing); the decoder then stops.
     [[nodiscard]] virtual bool begin(const PictureHeader &header) = 0;
     virtual void addRow(const uchar *samples) = 0;
 };

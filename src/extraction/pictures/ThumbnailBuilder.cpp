@@ -33,7 +33,6 @@ bool ThumbnailBuilder::begin(const PictureHeader &header)
     m_thumbnail = QImage(size, QImage::Format_RGB888);
     if (m_thumbnail.isNull())
         return false;
-    m_thumbnail.fill(Qt::white);
     m_scaler.emplace(header.size, size);
     m_conversion = ProfileConversion::make(header.colourProfile,
         header.layout == PixelLayout::InvertedCMYK ? PixelLayout::InvertedCMYK : PixelLayout::RGB);
@@ -98,7 +97,10 @@ std::optional<QImage> ThumbnailBuilder::finish()
 {
     if (m_sourceRows == 0)
         return std::nullopt;
-    return std::move(m_thumbnail);
+    // Not before the rows come: libraries need most memory at their start, and untouched memory costs none.
+    for (; m_thumbnailRows < m_thumbnail.height(); ++m_thumbnailRows)
+        std::memset(m_thumbnail.scanLine(m_thumbnailRows), 255, size_t(m_thumbnail.bytesPerLine()));
+    return m_thumbnail.mirrored(m_header.isRightToLeft, m_header.isBottomUp);
 }
 
 } // namespace Varlo

@@ -3,8 +3,11 @@
 #include "extraction/pictures/makeThumbnail.h"
 
 #include "extraction/pictures/BufferedFile.h"
+#include "extraction/pictures/decodeEXR.h"
 #include "extraction/pictures/decodeJPEG.h"
 #include "extraction/pictures/decodePNG.h"
+#include "extraction/pictures/decodeTGA.h"
+#include "extraction/pictures/decodeWithQt.h"
 #include "extraction/pictures/PictureKind.h"
 #include "extraction/pictures/readPhotoFacts.h"
 #include "extraction/pictures/ThumbnailBuilder.h"
@@ -53,13 +56,21 @@ static bool decode(
         return decodeJPEG(file, longestSide, rows);
     case PictureKind::PNG:
         return decodePNG(file, rows);
+    case PictureKind::GIF:
+    case PictureKind::BMP:
+    case PictureKind::ICO:
+    case PictureKind::ICNS:
+        return decodeWithQt(file, kind, rows);
+    case PictureKind::EXR:
+        return decodeEXR(file, rows);
+    case PictureKind::TGA:
+        return decodeTGA(file, rows);
     case PictureKind::WebP:
     case PictureKind::TIFF:
     case PictureKind::HEIF:
         return furtherDecoder && furtherDecoder->decode(file, longestSide, rows);
-    default:
-        return false;
     }
+    return false;
 }
 
 static bool isForFurtherDecoder(PictureKind kind)
