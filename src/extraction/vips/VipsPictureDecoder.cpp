@@ -69,13 +69,13 @@ static Image open(VipsSource *source, Format format, int longestSide)
     Image image(vips_image_new_from_source(source, "", "access", VIPS_ACCESS_SEQUENTIAL, nullptr));
     if (!image || isTooLarge(image->Xsize, image->Ysize))
         return nullptr;
-    const int longerSide = std::max(image->Xsize, image->Ysize);
-    if (format != Format::WebP || longerSide <= longestSide)
+    const double scale = std::max(double(longestSide) / std::max(image->Xsize, image->Ysize),
+        1.0 / std::min(image->Xsize, image->Ysize)); // of a line something has to be left
+    if (format != Format::WebP || scale >= 1)
         return image;
     // WebP alone shrinks well while it decodes. What the others offer for it are smaller copies in the same file, and
     // those need not show the same.
     VipsImage *shrunk = nullptr;
-    const double scale = double(longestSide) / longerSide;
     if (vips_webpload_source(source, &shrunk, "access", VIPS_ACCESS_SEQUENTIAL, "scale", scale, nullptr) != 0)
         return nullptr;
     return Image(shrunk);
