@@ -41,6 +41,18 @@ function(varlo_module name)
   install(TARGETS ${name} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/varlo)
 endfunction()
 
+# varlo_helper(varlo-extractor SOURCES main.cpp [USES ...] [LINKS ...])
+# A program that Varlo starts by itself, found by OwnFolders.
+set(VARLO_HELPER_FOLDER ${PROJECT_BINARY_DIR}/libexec)
+function(varlo_helper name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;USES;LINKS")
+  add_executable(${name} ${arg_SOURCES})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${VARLO_HELPER_FOLDER})
+  list(TRANSFORM arg_USES PREPEND Varlo::)
+  target_link_libraries(${name} PRIVATE varlo_options Qt6::Core ${arg_USES} ${arg_LINKS})
+  install(TARGETS ${name} RUNTIME DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/varlo)
+endfunction()
+
 # varlo_test(history/tst_RenameLog.cpp USES history fakes [LINKS ...] [COMMAND wrapper...] [PROPERTIES ...])
 # A Qt Test program of its own, run below a fresh home and a fresh set of XDG folders.
 function(varlo_test source)
