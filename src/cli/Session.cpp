@@ -75,10 +75,12 @@ RenameLog &Session::renameLog()
     return *m_renameLog;
 }
 
-ContentReader &Session::reader()
+IsolatedContentReader &Session::reader()
 {
     if (!m_reader)
-        m_reader = std::make_unique<ThreadContentReader>(m_fileFlags);
+        m_reader = std::make_unique<IsolatedContentReader>(m_fileFlags,
+            IsolatedContentReader::Options {
+                {}, {}, [this](const QString &warning) { m_terminal.complain(terminalText(warning)); } });
     return *m_reader;
 }
 

@@ -5,7 +5,7 @@
 #include "cli/Command.h"
 #include "cli/Terminal.h"
 #include "cli/TerminalFolderPanel.h"
-#include "extraction/ThreadContentReader.h"
+#include "extraction/IsolatedContentReader.h"
 #include "history/RenameLog.h"
 #include "platform/linux/JsonPreferenceStore.h"
 #include "platform/linux/LinuxFileFlags.h"
@@ -43,7 +43,7 @@ public:
     [[nodiscard]] RenameLog &renameLog();
     [[nodiscard]] FolderAccess &folderAccess();
     [[nodiscard]] TerminalFolderPanel &folderPanel() { return m_folderPanel; }
-    [[nodiscard]] ContentReader &reader();
+    [[nodiscard]] IsolatedContentReader &reader();
     [[nodiscard]] const SystemLocale &locale() const { return m_locale; }
     [[nodiscard]] SecretStore &secretStore();
 
@@ -83,7 +83,7 @@ private:
     std::unique_ptr<SecretStore> m_secretStore; // the two together
     std::unique_ptr<APIKeyStore> m_keyStore;
     std::unique_ptr<NameSuggestionService> m_suggester;
-    std::unique_ptr<ThreadContentReader> m_reader;
+    std::unique_ptr<IsolatedContentReader> m_reader;
 };
 
 } // namespace Varlo

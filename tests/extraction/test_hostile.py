@@ -23,7 +23,8 @@ import unittest
 VARLO = os.path.abspath(sys.argv[1])
 WRITE_FILES = pathlib.Path(__file__).parent / "hostile" / "write-files"
 # What Varlo reads so far.
-READ = {"txt"}
+READ = {"txt", "rtf", "docx", "xlsx", "pptx", "pdf", "ai", "jpg", "jpeg", "jpe", "png", "webp", "gif", "heic", "heif", "heics",
+        "tiff", "tif", "bmp", "avif", "tga", "exr", "ico", "icns"}
 # Beyond this a file is known by its size and times alone.
 LARGEST_DIGESTED = 32 << 20
 

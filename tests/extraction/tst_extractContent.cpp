@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "extraction/extractContent.h"
+#include "extraction/worker/extractContent.h"
 
 #include "extraction/describe.h"
 #include "platform/FileDescriptor.h"
@@ -33,6 +33,7 @@ private:
     std::filesystem::path path(const char *name) const { return m_folder.path().toStdString() + '/' + name; }
 
     QTemporaryDir m_folder;
+    FileReaders m_readers;
 };
 
 void ExtractContentTest::reads_data()
@@ -59,11 +60,11 @@ void ExtractContentTest::reads()
     const std::filesystem::path file = path(name.constData());
     QVERIFY(
         ::write(FileDescriptor(::creat(file.c_str(), 0600)).get(), bytes.constData(), bytes.size()) == bytes.size());
-    QTEST(describe(extractContent(file, Flags(false))), "outcome");
+    QTEST(describe(extractContent(file, Flags(false), m_readers)), "outcome");
     // Only a file without a first byte can be a placeholder; of the others nobody asks.
     const Flags cloud(true);
-    QCOMPARE(
-        describe(extractContent(file, cloud)).startsWith(u"unreadable: This file is online-only."), bytes.isEmpty());
+    QCOMPARE(describe(extractContent(file, cloud, m_readers)).startsWith(u"unreadable: This file is online-only."),
+        bytes.isEmpty());
     QCOMPARE(cloud.questions, bytes.isEmpty() ? 1 : 0);
 }
 
@@ -87,8 +88,8 @@ void ExtractContentTest::refuses()
     QVERIFY2(::geteuid() != 0, "run by the administrator, to whom nothing is refused");
     QFETCH(QByteArray, name);
     QFETCH(QString, words);
-    QCOMPARE(describe(extractContent(path(name.constData()), Flags(false))), u"unreadable: "_s + words);
-    QCOMPARE(describe(extractContent(path(name.constData()), Flags(true))),
+    QCOMPARE(describe(extractContent(path(name.constData()), Flags(false), m_readers)), u"unreadable: "_s + words);
+    QCOMPARE(describe(extractContent(path(name.constData()), Flags(true), m_readers)),
         u"unreadable: This file is online-only. Download it in its cloud app first, then try again."_s);
 }
 

@@ -1,0 +1,305 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "extraction/IsolatedContentReader.h"
+
+#include "extraction/describe.h"
+#include "platform/FileDescriptor.h"
+#include <condition_variable>
+#include <csignal>
+#include <fcntl.h>
+#include <mutex>
+#include <QCoroTask>
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QThread>
+#include <seccomp.h>
+
+using namespace Qt::StringLiterals;
+using namespace Varlo;
+
+namespace {
+
+struct DiskFlags final : FileFlags {
+    [[nodiscard]] bool isOnlineOnly(const std::filesystem::path &) const override { return false; }
+};
+
+/// Holds every asking thread back until five of them wait, and then a moment longer for a sixth, who must not come.
+struct GateOfFive final : FileFlags {
+    mutable std::mutex mutex;
+    mutable std::condition_variable someoneCame;
+    mutable int inside = 0, most = 0, came = 0;
+    mutable bool isOnMainThread = false, isOpen = false;
+
+    [[nodiscard]] bool isOnlineOnly(const std::filesystem::path &) const override
+    {
+        std::unique_lock lock(mutex);
+        most = std::max(most, ++inside);
+        isOnMainThread = isOnMainThread || QThread::currentThread() == qApp->thread();
+        ++came;
+        someoneCame.notify_all();
+        someoneCame.wait(lock, [this] { return came >= 5; });
+        someoneCame.wait_for(lock, std::chrono::milliseconds(200), [this] { return isOpen || inside > 5; });
+        isOpen = true;
+        someoneCame.notify_all();
+        --inside;
+        return false;
+    }
+};
+
+} // namespace
+
+static const QString unsafe = u"unreadable: This file could not be read safely."_s;
+static const QString tooLong = u"unreadable: Reading this file took too long."_s;
+
+class IsolatedContentReaderTest : public QObject {
+    Q_OBJECT
+private slots:
+    void costsOneFile_data();
+    void costsOneFile();
+    void waitsForWhoeverMovesOn();
+    void leaksNothing();
+    void readsFiveAtOnce();
+    void readsFiveTextsAtOnce();
+    void startsNothingForText();
+    void survivesItsStarter();
+    void endsWithoutStarter_data();
+    void endsWithoutStarter();
+    void answersAfterItsEnd();
+    void goesOnWithoutLayers(); // the last one, as the process keeps what it does
+
+private:
+    /// A file for a worker, which does what it says.
+    std::filesystem::path fileSaying(const QString &content);
+    QString read(IsolatedContentReader &reader, const QString &content);
+
+    const DiskFlags m_flags;
+    QTemporaryDir m_folder;
+    int m_files = 0;
+};
+
+static IsolatedContentReader::Options options(const ReadingLimits &limits = {})
+{
+    return { QStringLiteral(MISBEHAVING_EXTRACTOR), limits, {} };
+}
+
+static QCoro::Task<void> collect(ContentReader &reader, std::filesystem::path path, QStringList &outcomes)
+{
+    const Extraction outcome = co_await reader.read(path);
+    outcomes.append(describe(outcome));
+}
+
+/// The starter and the workers; not those that ended and are not reaped yet.
+static QList<pid_t> extractorProcesses()
+{
+    const QString program = QFileInfo(QStringLiteral(MISBEHAVING_EXTRACTOR)).fileName().left(15); // the kernel's length
+    QList<pid_t> found;
+    for (const QString &entry : QDir(u"/proc"_s).entryList(QDir::Dirs)) {
+        QFile file(u"/proc/%1/stat"_s.arg(entry));
+        if (!file.open(QFile::ReadOnly))
+            continue;
+        const QByteArray stat = file.readAll(); // pid (name) state parent
+        const bool isEnded = stat.contains(") Z ") || stat.contains(") X ");
+        if (stat.contains('(' + program.toUtf8() + ')') && !isEnded)
+            found.append(entry.toInt());
+    }
+    return found;
+}
+
+std::filesystem::path IsolatedContentReaderTest::fileSaying(const QString &content)
+{
+    QFile file(m_folder.filePath(QString::number(++m_files) + u".pdf"_s));
+    if (!file.open(QFile::WriteOnly) || file.write(content.toUtf8()) < 0)
+        qFatal("no room for a file");
+    return file.filesystemFileName();
+}
+
+QString IsolatedContentReaderTest::read(IsolatedContentReader &reader, const QString &content)
+{
+    return describe(QCoro::waitFor(reader.read(fileSaying(content))));
+}
+
+void IsolatedContentReaderTest::costsOneFile_data()
+{
+    QTest::addColumn<QString>("outcome");
+    const auto row = [](const char *act, const QString &outcome) { QTest::newRow(act) << outcome; };
+    row("hang", tooLong);
+    row("hang while it reports progress", tooLong);
+    row("answer and go on", tooLong);
+    row("hang up and go on", unsafe);
+    row("exit", unsafe);
+    row("abort", unsafe);
+    row("throw", unsafe);
+    row("say nonsense", unsafe);
+    row("answer a GiB", unsafe);
+    row("answer twice", unsafe);
+    row("report progress without end", unsafe);
+    row("run a program", unsafe);
+#ifndef __SANITIZE_ADDRESS__ // which has no limit that it could reach
+    row("take all memory", unsafe);
+#endif
+    row("fork for ever", u"no text found"_s);
+    row("open a socket", u"text: no socket was to be had"_s);
+}
+
+void IsolatedContentReaderTest::costsOneFile()
+{
+    QFETCH(QString, outcome);
+    using namespace std::chrono_literals;
+    IsolatedContentReader reader(m_flags, options({ 3s, 3s, 5s }));
+    const QString fine = u"words of a good file"_s;
+    const QString act = QString::fromUtf8(QTest::currentDataTag());
+    // Beside a good one, and before another.
+    QStringList beside;
+    collect(reader, fileSaying(fine), beside);
+    QCOMPARE(read(reader, act), outcome);
+    QCOMPARE(read(reader, fine), u"text: "_s + fine);
+    QTRY_COMPARE_WITH_TIMEOUT(beside, QStringList { u"text: "_s + fine }, 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), 1, 60000);
+}
+
+void IsolatedContentReaderTest::waitsForWhoeverMovesOn()
+{
+    using namespace std::chrono_literals;
+    IsolatedContentReader reader(m_flags, options({ 2500ms, 60s, 60s }));
+    QCOMPARE(read(reader, u"work on many pages"_s), u"text: thirty pages were read"_s); // for three seconds
+    QCOMPARE(read(reader, u"scan"_s), u"text: recognized on the second call"_s);
+    const auto report = QCoro::waitFor(reader.inspect());
+    QVERIFY(report && report->layers && report->layers->isComplete());
+    QCOMPARE(report->findings.value(u"languages"_s).toString(), u"eng"_s);
+}
+
+void IsolatedContentReaderTest::leaksNothing()
+{
+    for (const char *name : { "LANG", "LANGUAGE", "LC_TIME", "LC_ALL", "TZ" })
+        qunsetenv(name);
+    qputenv("VARLO_API_KEY", "secret");
+    qputenv("LD_PRELOAD_NOT", "x");
+    qputenv("TZ", "UTC");
+    qputenv("LC_ALL", "C.UTF-8");
+    const FileDescriptor inheritable(::open("/dev/null", O_RDONLY)); // NOLINT: on purpose without O_CLOEXEC
+    IsolatedContentReader reader(m_flags, options());
+    QCOMPARE(read(reader, u"list the environment"_s),
+        u"text: LC_ALL MALLOC_ARENA_MAX OMP_THREAD_LIMIT QT_NO_GLIB TZ VIPS_BLOCK_UNTRUSTED VIPS_NOVECTOR"_s);
+    QCOMPARE(read(reader, u"list descriptors"_s), u"text: open descriptors: file file file socket file"_s);
+    for (int file = 0; file < 2; ++file)
+        QCOMPARE(read(reader, u"count files"_s), u"text: 0 files were seen before this one"_s);
+}
+
+void IsolatedContentReaderTest::readsFiveAtOnce()
+{
+    IsolatedContentReader reader(m_flags, options());
+    QStringList outcomes;
+    for (int file = 0; file < 12; ++file)
+        collect(reader, fileSaying(u"work for a while"_s), outcomes);
+    qsizetype most = 0;
+    while (outcomes.size() < 12) {
+        QTest::qWait(10);
+        most = std::max(most, extractorProcesses().size());
+    }
+    QCOMPARE(outcomes, QStringList(12, u"text: it took half a second"_s));
+    QCOMPARE(most, 6); // with the starter
+}
+
+// Missing files make each reading ask for the flags, where the gate is.
+void IsolatedContentReaderTest::readsFiveTextsAtOnce()
+{
+    const GateOfFive gate;
+    IsolatedContentReader reader(gate, options());
+    QStringList outcomes;
+    for (int number = 0; number < 30; ++number)
+        collect(reader, m_folder.filePath(u"missing.txt"_s).toStdString(), outcomes);
+    QTRY_COMPARE_WITH_TIMEOUT(outcomes, QStringList(30, u"unreadable: "_s + qt_error_string(ENOENT)), 60000);
+    QCOMPARE(gate.most, 5);
+    QVERIFY(!gate.isOnMainThread);
+}
+
+void IsolatedContentReaderTest::startsNothingForText()
+{
+    IsolatedContentReader reader(m_flags, options());
+    QFile file(m_folder.filePath(u"note.txt"_s));
+    QVERIFY(file.open(QFile::WriteOnly) && file.write("words of a good file\n second line") > 0 && file.flush());
+    const std::filesystem::path path = file.filesystemFileName();
+    QCOMPARE(describe(QCoro::waitFor(reader.read(path))), u"text: words of a good file second line"_s);
+    const Preview preview = QCoro::waitFor(reader.preview(path, 500));
+    QCOMPARE(std::get<TextPreview>(preview).text, u"words of a good file\n second line"_s);
+    QCOMPARE(describe(QCoro::waitFor(reader.read("film.mp4"))), u"unreadable: "_s + qt_error_string(ENOENT));
+    QVERIFY(extractorProcesses().isEmpty());
+    reader.warmUp();
+    QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), 1, 60000);
+}
+
+void IsolatedContentReaderTest::survivesItsStarter()
+{
+    IsolatedContentReader reader(m_flags, options());
+    reader.warmUp();
+    QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), 1, 60000);
+    const pid_t starter = extractorProcesses().first();
+    QStringList outcomes;
+    for (int file = 0; file < 5; ++file)
+        collect(reader, fileSaying(u"work for a while"_s), outcomes);
+    QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), 6, 60000);
+    ::kill(starter, SIGKILL);
+    QTRY_COMPARE_WITH_TIMEOUT(outcomes, QStringList(5, u"text: it took half a second"_s), 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), 1, 60000);
+}
+
+void IsolatedContentReaderTest::endsWithoutStarter_data()
+{
+    QTest::addColumn<QString>("program");
+    QTest::addColumn<QString>("outcome");
+    QTest::newRow("not installed") << u"/nowhere/varlo-extractor"_s
+                                   << u"unreadable: The part that reads such files is not installed."_s;
+    QTest::newRow("dies at once") << u"/usr/bin/false"_s << unsafe;
+}
+
+void IsolatedContentReaderTest::endsWithoutStarter()
+{
+    QFETCH(QString, program);
+    IsolatedContentReader reader(m_flags, { program, {}, {} });
+    QTEST(read(reader, u"words of a good file"_s), "outcome");
+    QTEST(read(reader, u"words of a good file"_s), "outcome");
+    QVERIFY(!QCoro::waitFor(reader.inspect()));
+}
+
+void IsolatedContentReaderTest::answersAfterItsEnd()
+{
+    QStringList outcomes;
+    {
+        IsolatedContentReader reader(m_flags, options());
+        for (int file = 0; file < 20; ++file)
+            collect(reader, fileSaying(u"hang"_s), outcomes);
+        QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), 6, 60000);
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(outcomes, QStringList(20, unsafe), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(extractorProcesses().isEmpty(), 60000);
+}
+
+/// Makes this system one that has neither layer, for this process and what it starts.
+static bool takeLayersAway()
+{
+    const scmp_filter_ctx filter = ::seccomp_init(SCMP_ACT_ALLOW);
+    bool isDone = true;
+    for (const char *call : { "landlock_create_ruleset", "landlock_add_rule", "landlock_restrict_self", "seccomp" })
+        isDone = ::seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), ::seccomp_syscall_resolve_name(call), 0) == 0
+            && isDone;
+    isDone = ::seccomp_load(filter) == 0 && isDone;
+    ::seccomp_release(filter);
+    return isDone;
+}
+
+void IsolatedContentReaderTest::goesOnWithoutLayers()
+{
+    QVERIFY(takeLayersAway());
+    QStringList warnings;
+    IsolatedContentReader reader(
+        m_flags, { QStringLiteral(MISBEHAVING_EXTRACTOR), {}, [&](const QString &text) { warnings.append(text); } });
+    QCOMPARE(read(reader, u"words of a good file"_s), u"text: words of a good file"_s);
+    QCOMPARE(read(reader, u"open a socket"_s), u"text: there was a socket indeed"_s);
+    QCOMPARE(warnings.size(), 1);
+    const auto report = QCoro::waitFor(reader.inspect());
+    QVERIFY(report && report->layers == SandboxLayers());
+}
+
+QTEST_GUILESS_MAIN(IsolatedContentReaderTest)
+#include "tst_IsolatedContentReader.moc"
