@@ -75,6 +75,7 @@ struct FoldersRemoveCommand {
 struct ExtractCommand {
     std::vector<std::filesystem::path> files;
     bool json = false;
+    std::optional<std::filesystem::path> imageFolder; ///< each picture is written there
 };
 struct TemplatesListCommand {
     bool json = false;

@@ -13,6 +13,7 @@ namespace Varlo {
 struct CommandLine::Values {
     std::vector<std::string> files;
     std::string files0From;
+    std::string imageFolder;
     std::string language = "auto";
     std::string templateId;
     bool tags = false;
@@ -286,12 +287,26 @@ void CommandLine::describeOpenAndExtract()
 
     CLI::App *extract = addCommand(*m_app, "extract", "Print what the model would be given for each file");
     addJsonFlag(*extract);
+    extract->add_option("--image-dir", values.imageFolder, "Write each picture there, as a JPEG with a new name")
+        ->type_name("DIR");
     addArguments(*extract, "FILE", values.files, "Files")->required();
-    extract->footer("Examples:\n"
-                    "  # Whether there is text in a scan at all\n"
-                    "  varlo extract scan.pdf");
-    extract->callback([&values] {
-        values.command = [&values] { return ExtractCommand { toPaths(values.files), values.json }; };
+    extract->footer(
+        "With --json each object has path and result: content, unreadable, noTextFound or notSupportedYet.\n"
+        "Content has kind; a text has text; an image has mimeType, byteCount, width, height, metadata where\n"
+        "something is known, and imageFile with --image-dir. Unreadable has message.\n"
+        "\n"
+        "Examples:\n"
+        "  # Whether there is text in a scan at all\n"
+        "  varlo extract scan.pdf\n"
+        "  # The pictures as the model would see them\n"
+        "  varlo extract --image-dir seen ~/Photos/*.heic");
+    extract->callback([&values, extract] {
+        values.command = [&values, extract] {
+            ExtractCommand command { toPaths(values.files), values.json, {} };
+            if (extract->count("--image-dir") > 0)
+                command.imageFolder = values.imageFolder;
+            return command;
+        };
     });
 }
 

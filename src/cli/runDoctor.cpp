@@ -5,6 +5,7 @@
 #include "platform/shownPath.h"
 #include <QCoreApplication>
 #include <QCoroTask>
+#include <QJsonArray>
 #include <QJsonObject>
 #include <unistd.h>
 
@@ -59,6 +60,78 @@ static Finding lookAtKey(Session &session, const Endpoint &endpoint)
     Q_UNREACHABLE();
 }
 
+static QString lockedInWith(const SandboxLayers &layers)
+{
+    QStringList names;
+    if (layers.landlockVersion > 0)
+        names.append(u"Landlock %1"_s.arg(layers.landlockVersion));
+    if (layers.filtersCalls)
+        names.append(u"seccomp"_s);
+    return names.join(u", ");
+}
+
+static Finding lookAtSandbox(const std::optional<SandboxLayers> &layers)
+{
+    const QString subject = translate(QT_TRANSLATE_NOOP("Doctor", "Sandbox"));
+    const QString names = lockedInWith(layers.value_or(SandboxLayers()));
+    if (layers && layers->isComplete())
+        return { subject, true, names, {} };
+    const QString detail = names.isEmpty()
+        ? translate(QT_TRANSLATE_NOOP("Doctor", "files are read without one"))
+        : translate(QT_TRANSLATE_NOOP("Doctor", "files are read with %1 only")).arg(names);
+    return { subject, false, detail,
+        translate(QT_TRANSLATE_NOOP("Doctor", "use a kernel of version 5.13 or newer with Landlock and seccomp")) };
+}
+
+static QStringList texts(const QJsonValue &array)
+{
+    QStringList list;
+    for (const QJsonValue &value : array.toArray())
+        list.append(terminalText(value.toString()));
+    return list;
+}
+
+static Finding lookAtRecognition(const QStringList &missingLanguages)
+{
+    const QString subject = translate(QT_TRANSLATE_NOOP("Doctor", "Recognition"));
+    if (missingLanguages.isEmpty())
+        return { subject, true, translate(QT_TRANSLATE_NOOP("Doctor", "English, Dutch, Spanish")), {} };
+    QStringList packages;
+    for (const QString &language : missingLanguages)
+        packages.append(u"tesseract-ocr-"_s + language);
+    return { subject, false,
+        translate(QT_TRANSLATE_NOOP("Doctor", "no language data for %1")).arg(missingLanguages.join(u", ")),
+        translate(QT_TRANSLATE_NOOP("Doctor", "install %1")).arg(packages.join(u' ')) };
+}
+
+static Finding lookAtPictures(const QStringList &missingFormats)
+{
+    const QString subject = translate(QT_TRANSLATE_NOOP("Doctor", "Pictures"));
+    if (missingFormats.isEmpty())
+        return { subject, true, translate(QT_TRANSLATE_NOOP("Doctor", "every format can be read")), {} };
+    return { subject, false,
+        translate(QT_TRANSLATE_NOOP("Doctor", "no decoder for %1")).arg(missingFormats.join(u", ")),
+        translate(QT_TRANSLATE_NOOP("Doctor", "install Qt's image formats, and libvips with its loaders")) };
+}
+
+/// By the word of a worker, locked in as those that read files are.
+static QList<Finding> lookAtReaders(Session &session)
+{
+    const QString subject = translate(QT_TRANSLATE_NOOP("Doctor", "Readers"));
+    const auto report = QCoro::waitFor(session.reader().inspect());
+    if (!report)
+        return { { subject, false, report.error(), translate(QT_TRANSLATE_NOOP("Doctor", "install Varlo again")) } };
+    const QStringList missingParts = texts(report->findings[u"missingParts"_s]);
+    QList<Finding> findings { lookAtSandbox(report->layers) };
+    if (!missingParts.isEmpty())
+        findings.append(
+            { subject, false, translate(QT_TRANSLATE_NOOP("Doctor", "not there: %1")).arg(missingParts.join(u", ")),
+                translate(QT_TRANSLATE_NOOP("Doctor", "install Varlo again, with the libraries that it names")) });
+    findings.append(lookAtRecognition(texts(report->findings[u"missingLanguages"_s])));
+    findings.append(lookAtPictures(texts(report->findings[u"missingFormats"_s])));
+    return findings;
+}
+
 static QList<Finding> examine(const DoctorCommand &command, Session &session)
 {
     QList<Finding> findings {
@@ -76,7 +149,7 @@ static QList<Finding> examine(const DoctorCommand &command, Session &session)
     }
     findings.append({ translate(QT_TRANSLATE_NOOP("Doctor", "Secret store")), true,
         terminalText(session.secretStore().description()), {} });
-    return findings;
+    return findings + lookAtReaders(session);
 }
 
 ExitCode run(const DoctorCommand &command, Session &session)

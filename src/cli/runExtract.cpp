@@ -3,6 +3,8 @@
 #include "cli/commands.h"
 #include "cli/FileArgumentList.h"
 #include "cli/terminalText.h"
+#include "extraction/jpegSize.h"
+#include "platform/linux/replaceFile.h"
 #include <csignal>
 #include <map>
 #include <memory>
@@ -14,6 +16,13 @@ namespace Varlo {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+/// A picture is in the folder that was asked for, or it could not be put there.
+using ImageFile = std::optional<Result<std::filesystem::path, SystemError>>;
+} // namespace
+
+static QSize sizeOf(const ImageContent &image) { return jpegSize(image.data).value_or(QSize()); }
+
 static QJsonObject toJson(const FileContent &content)
 {
     return std::visit(Overloaded {
@@ -21,8 +30,10 @@ static QJsonObject toJson(const FileContent &content)
                               return { { u"kind"_s, u"text"_s }, { u"text"_s, text.text } };
                           },
                           [](const ImageContent &image) -> QJsonObject {
+                              const QSize size = sizeOf(image);
                               QJsonObject object { { u"kind"_s, u"image"_s }, { u"mimeType"_s, image.mimeType },
-                                  { u"byteCount"_s, image.data.size() } };
+                                  { u"byteCount"_s, image.data.size() }, { u"width"_s, size.width() },
+                                  { u"height"_s, size.height() } };
                               if (image.metadata)
                                   object.insert(u"metadata"_s, *image.metadata);
                               return object;
@@ -31,7 +42,7 @@ static QJsonObject toJson(const FileContent &content)
         content);
 }
 
-static QJsonObject toJson(const std::filesystem::path &path, const Extraction &extraction)
+static QJsonObject toJson(const std::filesystem::path &path, const Extraction &extraction, const ImageFile &imageFile)
 {
     QJsonObject object;
     const auto setResult = [&object](const QString &result) { object.insert(u"result"_s, result); };
@@ -49,6 +60,8 @@ static QJsonObject toJson(const std::filesystem::path &path, const Extraction &e
                },
         extraction);
     insertPath(object, u"path"_s, path);
+    if (imageFile && *imageFile)
+        insertPath(object, u"imageFile"_s, **imageFile);
     return object;
 }
 
@@ -57,10 +70,15 @@ static QString summary(const FileContent &content)
     return std::visit(Overloaded {
                           [](const TextContent &text) { return terminalText(text.text); },
                           [](const ImageContent &image) {
-                              const QString size = QCoreApplication::translate("Terminal", "%1, %2 bytes")
-                                                       .arg(image.mimeType)
-                                                       .arg(image.data.size());
-                              return image.metadata ? size + u'\n' + *image.metadata : size;
+                              const QSize size = sizeOf(image);
+                              QStringList lines { QCoreApplication::translate("Terminal", "%1, %2 × %3, %4 bytes")
+                                                      .arg(image.mimeType)
+                                                      .arg(size.width())
+                                                      .arg(size.height())
+                                                      .arg(image.data.size()) };
+                              for (const QString &line : image.metadata.value_or(QString()).split(u'\n'))
+                                  lines.append(terminalText(line));
+                              return lines.join(u'\n').trimmed();
                           },
                       },
         content);
@@ -73,6 +91,7 @@ class ExtractRun {
 public:
     ExtractRun(const ExtractCommand &command, Session &session)
         : m_json(command.json)
+        , m_imageFolder(command.imageFolder ? std::optional(resolvedArgument(*command.imageFolder)) : std::nullopt)
         , m_terminal(session.terminal())
         , m_reader(session.reader())
     {
@@ -106,14 +125,39 @@ private:
     {
         m_hasFailures = m_hasFailures || std::holds_alternative<Unreadable>(extraction)
             || std::holds_alternative<NotSupportedYet>(extraction);
+        const ImageFile imageFile = writeImage(index, extraction);
         if (m_json) {
-            m_terminal.printJson(toJson(m_paths[index], extraction));
+            m_terminal.printJson(toJson(m_paths[index], extraction, imageFile));
             return;
         }
         m_waiting.emplace(index, std::move(extraction));
         for (auto first = m_waiting.begin(); first != m_waiting.end() && first->first == m_nextPrinted;
              first = m_waiting.erase(first), ++m_nextPrinted)
             print(first->first, first->second);
+    }
+
+    /// Under a name of our own that nothing has yet, as that of the file may mean anything.
+    ImageFile writeImage(std::size_t index, const Extraction &extraction)
+    {
+        const auto *const content = std::get_if<FileContent>(&extraction);
+        const auto *const image = content ? std::get_if<ImageContent>(content) : nullptr;
+        if (!m_imageFolder || !image)
+            return {};
+        constexpr int mostAttempts = 10'000;
+        SystemError error;
+        for (int attempt = 1; attempt <= mostAttempts; ++attempt) {
+            const std::string number = std::to_string(index + 1) + (attempt > 1 ? "-" + std::to_string(attempt) : "");
+            const std::filesystem::path file = *m_imageFolder / ("varlo-" + number + ".jpg");
+            const auto written = createFile(file, image->data);
+            if (written)
+                return file;
+            error = written.error();
+            if (error.code != EEXIST)
+                break;
+        }
+        m_hasFailures = true;
+        m_terminal.complain(terminalText(*m_imageFolder) + u": "_s + error.description());
+        return tl::unexpected(error);
     }
 
     void print(std::size_t index, const Extraction &extraction)
@@ -136,6 +180,7 @@ private:
     }
 
     bool m_json;
+    std::optional<std::filesystem::path> m_imageFolder;
     Terminal &m_terminal;
     ContentReader &m_reader;
     std::vector<std::filesystem::path> m_paths;
@@ -150,6 +195,15 @@ private:
 ExitCode run(const ExtractCommand &command, Session &session)
 {
     std::signal(SIGINT, [](int) { ::_exit(static_cast<int>(ExitCode::Interrupted)); });
+    if (command.imageFolder) {
+        std::error_code error;
+        std::filesystem::create_directories(*command.imageFolder, error);
+        if (error) {
+            const QString message = SystemError { error.value() }.description();
+            session.terminal().complain(terminalText(*command.imageFolder) + u": "_s + message);
+            return ExitCode::SomeFailed;
+        }
+    }
     ExtractRun extraction(command, session);
     QCoro::waitFor(extraction.readAll());
     return extraction.hasFailures() ? ExitCode::SomeFailed : ExitCode::Success;

