@@ -77,12 +77,13 @@ QHash<int, QByteArray> RenameLog::roleNames() const
 /// A name in the form in which two spellings of the same characters ("é" composed or not) are one.
 static std::string comparableName(const std::filesystem::path &path)
 {
-    const std::string bytes = path.filename().native();
+    const std::string_view text = path.native();
+    std::string bytes(text.substr(text.rfind('/') + 1)); // npos + 1 is 0
     const bool isAscii = std::none_of(bytes.begin(), bytes.end(), [](char byte) { return (byte & 0x80) != 0; });
     if (isAscii)
         return bytes;
-    const QString text = QString::fromStdString(bytes);
-    return text.toStdString() == bytes ? text.normalized(QString::NormalizationForm_C).toStdString() : bytes;
+    const QString shown = QString::fromStdString(bytes);
+    return shown.toStdString() == bytes ? shown.normalized(QString::NormalizationForm_C).toStdString() : bytes;
 }
 
 bool RenameLog::hasStandingRename(const std::filesystem::path &path) const
@@ -238,9 +239,9 @@ void RenameLog::record(const path &from, const path &to)
 /// A rename that was made by other means than ours, or that had nothing to move.
 void RenameLog::noteReported(const Entry &entry)
 {
-    const JournalRecord record = RenameReported { entry.fromPath.native(), entry.toPath.native(), entry.date };
+    const RenameReported report { entry.fromPath.native(), entry.toPath.native(), entry.date };
     const auto session = m_renamer.journal().enter();
-    if (session && m_renamer.journal().append({ &record, 1 }, RenameJournal::Durability::Synced))
+    if (session && m_renamer.journal().append({ report }, RenameJournal::Durability::Synced))
         return;
     const QScopedValueRollback isStoring(m_isStoring, true);
     static_cast<void>(m_preferences.update(Preference::renameLog, [&](const PreferenceValue &current) {
@@ -257,8 +258,7 @@ Result<void, SystemError> RenameLog::clear()
     const auto session = m_renamer.journal().enter();
     if (!session)
         return tl::unexpected(session.error());
-    const JournalRecord record = HistoryCleared {};
-    if (const auto noted = m_renamer.journal().append({ &record, 1 }, RenameJournal::Durability::Synced); !noted)
+    if (const auto noted = m_renamer.journal().append({ HistoryCleared {} }, RenameJournal::Durability::Synced); !noted)
         return noted;
     removeOldest(m_entries.size());
     storeUnlessInAction();

@@ -2,50 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "renaming/FileRenamer.h"
 
-#include "platform/pathExtension.h"
-#include "renaming/PlannedNames.h"
-#include "renaming/RenameFolder.h"
-#include "renaming/targetName.h"
+#include "renaming/RenamePlanner.h"
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <QRandomGenerator>
 #include <QScopedValueRollback>
+#include <set>
 
 namespace Varlo {
 
 using std::filesystem::path;
-
-static constexpr int lastNumber = 99;
-
-/// A request whose target name is known, if it has one.
-struct FileRenamer::Job {
-    const path *filePath = nullptr; ///< the caller's
-    std::string folder;
-    std::string name;
-    Result<TargetName, RenameError> target = tl::unexpected(RenameError::InvalidName);
-    std::optional<FileIdentity> admitted;
-    std::optional<double> undoneDate;
-
-    static Job of(const RenameRequest &request)
-    {
-        Job job = at(request.path);
-        job.target = targetName(job.name, request.newName);
-        job.admitted = request.admitted;
-        return job;
-    }
-    static Job at(const path &file)
-    {
-        const std::string &text = file.native();
-        const std::size_t slash = text.rfind('/');
-        Job job;
-        job.filePath = &file;
-        job.folder = text.substr(0, std::max<std::size_t>(slash, 1));
-        job.name = text.substr(slash + 1);
-        return job;
-    }
-    [[nodiscard]] bool isDoneAlready() const { return target && target->isCurrentName; }
-};
 
 /// Jobs that share the writes to the disk: planned together, noted down together, then moved one by one.
 class FileRenamer::Group {
@@ -60,104 +27,36 @@ public:
         : m_renamer(renamer)
     {
     }
-    [[nodiscard]] End run(std::span<const Job> jobs, const FileRenamer::Report &report);
+    [[nodiscard]] End run(std::span<const RenameJob> jobs, const FileRenamer::Report &report);
 
 private:
-    struct NothingToMove { };
-    struct WaitForOthers { };
-    using Plan = std::variant<PlannedMove, NothingToMove, RenameFailure, WaitForOthers>;
     struct Step {
-        const Job *job = nullptr;
-        Plan plan;
+        const RenameJob *job = nullptr;
+        RenamePlanner::Plan plan;
         quint64 id = 0;
         double date = 0;
     };
-    struct Folder {
-        Result<RenameFolder, SystemError> opened;
-        PlannedNames names;
-        bool hasMoves = false;
-    };
 
-    [[nodiscard]] Folder &folderOf(const Job &job);
-    [[nodiscard]] Plan plan(const Job &job);
-    [[nodiscard]] Plan planInFolder(const Job &job, Folder &folder);
-    void planAll(std::span<const Job> jobs);
+    void planAll(std::span<const RenameJob> jobs);
     [[nodiscard]] Result<void, SystemError> noteDown();
     [[nodiscard]] Outcome carryOut(const Step &step);
     [[nodiscard]] Outcome move(const Step &step, const PlannedMove &planned);
     void finish();
 
     FileRenamer &m_renamer;
+    RenamePlanner m_planner { RenamePlanner::Purpose::Moving };
     std::vector<Step> m_steps;
-    std::map<std::string, Folder> m_folders;
+    std::set<const RenameFolder *> m_foldersWithMoves;
     std::vector<JournalRecord> m_outcomes;
 };
 
-FileRenamer::Group::Folder &FileRenamer::Group::folderOf(const Job &job)
+void FileRenamer::Group::planAll(std::span<const RenameJob> jobs)
 {
-    const auto known = m_folders.find(job.folder);
-    if (known != m_folders.end())
-        return known->second;
-    return m_folders.emplace(job.folder, Folder { RenameFolder::open(job.folder), {}, false }).first->second;
-}
-
-FileRenamer::Group::Plan FileRenamer::Group::plan(const Job &job)
-{
-    if (!job.target)
-        return RenameFailure(job.target.error());
-    if (job.target->isCurrentName)
-        return NothingToMove {};
-    Folder &folder = folderOf(job);
-    if (!folder.opened)
-        return RenameFailure(folder.opened.error());
-    if (folder.names.ask(job.name) != PlannedNames::Answer::Untouched)
-        return WaitForOthers {};
-    return planInFolder(job, folder);
-}
-
-FileRenamer::Group::Plan FileRenamer::Group::planInFolder(const Job &job, Folder &folder)
-{
-    const auto file = folder.opened->find(job.name);
-    if (!file)
-        return RenameFailure(file.error());
-    if (!file->isRenamable() || (job.admitted && *job.admitted != file->identity))
-        return RenameFailure(FileChanged {});
-    for (int number = 1; number <= lastNumber; ++number) {
-        const std::string candidate = job.target->candidate(number, folder.opened->longestName());
-        if (candidate.empty())
-            return RenameFailure(RenameError::InvalidName);
-        if (candidate == job.name)
-            return NothingToMove {};
-        const PlannedNames::Answer planned = folder.names.ask(candidate);
-        if (planned == PlannedNames::Answer::Unclear)
-            return WaitForOthers {};
-        if (planned == PlannedNames::Answer::Taken)
-            continue;
-        const auto holder = folder.opened->find(candidate);
-        if (!holder && holder.error().code != ENOENT)
-            return RenameFailure(holder.error());
-        if (!holder)
-            return PlannedMove { job.name, candidate, *file, false };
-        if (holder->identity != file->identity)
-            continue;
-        // The file itself, on a volume that ignores case; or a second link to it, which is a name of its own.
-        const auto isLink = folder.opened->isSecondLink(candidate);
-        if (!isLink)
-            return RenameFailure(isLink.error());
-        if (!*isLink)
-            return PlannedMove { job.name, candidate, *file, true };
-    }
-    return RenameFailure(RenameError::TooManyConflicts);
-}
-
-void FileRenamer::Group::planAll(std::span<const Job> jobs)
-{
-    for (const Job &job : jobs) {
-        Plan planned = plan(job);
-        if (std::holds_alternative<WaitForOthers>(planned))
+    m_steps.reserve(jobs.size());
+    for (const RenameJob &job : jobs) {
+        RenamePlanner::Plan planned = m_planner.plan(job);
+        if (std::holds_alternative<RenamePlanner::WaitForOthers>(planned))
             return;
-        if (const auto *move = std::get_if<PlannedMove>(&planned))
-            folderOf(job).names.add(move->from, move->to);
         m_steps.push_back({ &job, std::move(planned), 0, 0 });
     }
 }
@@ -165,6 +64,7 @@ void FileRenamer::Group::planAll(std::span<const Job> jobs)
 Result<void, SystemError> FileRenamer::Group::noteDown()
 {
     std::vector<JournalRecord> intents;
+    intents.reserve(m_steps.size());
     const double now = m_renamer.now();
     for (Step &step : m_steps) {
         step.date = m_renamer.nextDate(now);
@@ -172,25 +72,24 @@ Result<void, SystemError> FileRenamer::Group::noteDown()
         if (!move)
             continue;
         step.id = QRandomGenerator::global()->generate64();
-        intents.push_back(RenameIntent { step.id, step.job->folder, move->from, move->to, move->file.identity.device,
-            move->file.identity.inode, move->file.birthTimeNs, step.date, step.job->undoneDate, false });
+        intents.push_back(
+            RenameIntent { step.id, std::string(step.job->folder), move->from, move->to, move->file.identity.device,
+                move->file.identity.inode, move->file.birthTimeNs, step.date, step.job->undoneDate, false });
     }
     if (intents.empty())
         return {};
-    return m_renamer.m_journal.append(intents, RenameJournal::Durability::Synced);
+    return m_renamer.m_journal.append(std::move(intents), RenameJournal::Durability::Synced);
 }
 
 FileRenamer::Outcome FileRenamer::Group::move(const Step &step, const PlannedMove &planned)
 {
-    Folder &folder = folderOf(*step.job);
-    const auto beforeLinking = [&] {
-        const JournalRecord mark = LinkingBegun { step.id };
-        return m_renamer.m_journal.append({ &mark, 1 }, RenameJournal::Durability::Synced);
-    };
-    const auto moved = folder.opened->move(planned, beforeLinking);
+    const RenameFolder &folder = m_planner.folderOf(*step.job);
+    const auto beforeLinking
+        = [&] { return m_renamer.m_journal.append({ LinkingBegun { step.id } }, RenameJournal::Durability::Synced); };
+    const auto moved = folder.move(planned, beforeLinking);
     if (!moved)
         return tl::unexpected(moved.error());
-    folder.hasMoves = true;
+    m_foldersWithMoves.insert(&folder);
     return pathIn(step.job->folder, planned.to);
 }
 
@@ -205,7 +104,7 @@ FileRenamer::Outcome FileRenamer::Group::carryOut(const Step &step)
         return *step.job->filePath;
     Outcome outcome = move(step, *planned);
     if (!outcome) {
-        const auto taken = folderOf(*step.job).opened->find(planned->to);
+        const auto taken = m_planner.folderOf(*step.job).find(planned->to);
         if (taken && taken->identity == planned->file.identity) // a second name that could not be taken back
             m_renamer.m_journal.settleNextTime();
         else
@@ -221,15 +120,13 @@ FileRenamer::Outcome FileRenamer::Group::carryOut(const Step &step)
 /// The outcomes need no sync of their own: without them the next session looks at the files and finds the same.
 void FileRenamer::Group::finish()
 {
-    for (auto &[folderPath, folder] : m_folders) {
-        if (folder.hasMoves)
-            folder.opened->sync();
-    }
+    for (const RenameFolder *folder : m_foldersWithMoves)
+        folder->sync();
     if (!m_outcomes.empty())
-        static_cast<void>(m_renamer.m_journal.append(m_outcomes, RenameJournal::Durability::Unsynced));
+        static_cast<void>(m_renamer.m_journal.append(std::move(m_outcomes), RenameJournal::Durability::Unsynced));
 }
 
-FileRenamer::Group::End FileRenamer::Group::run(std::span<const Job> jobs, const FileRenamer::Report &report)
+FileRenamer::Group::End FileRenamer::Group::run(std::span<const RenameJob> jobs, const FileRenamer::Report &report)
 {
     const auto session = m_renamer.m_journal.enter();
     if (!session)
@@ -280,9 +177,10 @@ std::size_t FileRenamer::renameAll(std::span<const RenameRequest> requests, cons
     std::size_t tried = 0;
     std::size_t size = groupSize;
     while (tried < requests.size()) {
-        std::vector<Job> jobs;
+        std::vector<RenameJob> jobs;
+        jobs.reserve(size);
         for (const RenameRequest &request : requests.subspan(tried, std::min(size, requests.size() - tried)))
-            jobs.push_back(Job::of(request));
+            jobs.push_back(RenameJob::of(request));
         const Report numbered
             = [&](std::size_t index, const Outcome &outcome) { return report(tried + index, outcome); };
         Group::End end;
@@ -303,7 +201,7 @@ Result<FileRenamer::TakenBack, RenameFailure> FileRenamer::takeBack(
     const path &filePath, const std::string &formerBase, double date)
 {
     const QScopedValueRollback isRenaming(m_isRenaming, true);
-    Job job = Job::at(filePath);
+    RenameJob job = RenameJob::at(filePath);
     job.target = formerName(job.name, formerBase);
     job.undoneDate = date;
     Outcome answer = tl::unexpected(RenameFailure(RenameError::InvalidName));

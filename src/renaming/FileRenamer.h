@@ -3,9 +3,9 @@
 #pragma once
 
 #include "platform/Clock.h"
-#include "platform/FileIdentity.h"
 #include "renaming/RenameFailure.h"
 #include "renaming/RenameJournal.h"
+#include "renaming/RenameRequest.h"
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -13,14 +13,6 @@
 #include <span>
 
 namespace Varlo {
-
-/// One file and the name that it is to get.
-struct RenameRequest {
-    std::filesystem::path path; ///< absolute, without "." and ".."
-    QString newName; ///< without extension; the file keeps the one it has
-    /// Which file it was when the user added it; another one under its name is left alone. Absent: whichever is there.
-    std::optional<FileIdentity> admitted;
-};
 
 /// Renames files in their own folders, each move noted down in the journal before it is made. Never takes a name from
 /// another file: a taken one gets a space and a number from 2 to 99. Lives on the main thread.
@@ -59,7 +51,6 @@ public:
     [[nodiscard]] RenameJournal &journal() { return m_journal; }
 
 private:
-    struct Job;
     class Group;
 
     [[nodiscard]] double now() const;

@@ -8,6 +8,7 @@
 #include <QByteArray>
 #include <span>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -92,9 +93,15 @@ constexpr std::size_t allAdditions = std::numeric_limits<std::size_t>::max();
 [[nodiscard]] std::vector<HistoryChange> historyChanges(
     const std::vector<JournalRecord> &records, std::size_t maximumAdditions = allAdditions);
 /// In one step, where operator/ takes the folder's path apart and together again.
-[[nodiscard]] inline std::filesystem::path pathIn(const std::string &folder, const std::string &name)
+[[nodiscard]] inline std::filesystem::path pathIn(std::string_view folder, std::string_view name)
 {
-    return folder.ends_with('/') ? folder + name : folder + '/' + name;
+    std::string path;
+    path.reserve(folder.size() + 1 + name.size());
+    path.append(folder);
+    if (!folder.ends_with('/'))
+        path.push_back('/');
+    path.append(name);
+    return path;
 }
 /// The renames of which the records do not say how they ended.
 [[nodiscard]] std::vector<RenameIntent> intentsWithoutOutcome(const std::vector<JournalRecord> &records);

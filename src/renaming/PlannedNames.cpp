@@ -21,16 +21,28 @@ static std::string foldedName(const std::string &name)
 
 PlannedNames::Answer PlannedNames::ask(const std::string &name) const
 {
-    const auto found = m_plans.find(foldedName(name));
-    if (found == m_plans.end())
-        return Answer::Untouched;
-    return found->second.isTaken && found->second.name == name ? Answer::Taken : Answer::Unclear;
+    const auto [first, last] = m_plans.equal_range(foldedName(name));
+    const auto found = std::find_if(first, last, [&](const auto &entry) { return entry.second.name == name; });
+    if (found != last)
+        return found->second.isTaken ? Answer::Taken : Answer::Freed;
+    return first == last ? Answer::Untouched : Answer::Alike;
+}
+
+void PlannedNames::plan(const std::string &name, bool isTaken)
+{
+    std::string folded = foldedName(name);
+    const auto [first, last] = m_plans.equal_range(folded);
+    const auto found = std::find_if(first, last, [&](const auto &entry) { return entry.second.name == name; });
+    if (found != last)
+        found->second.isTaken = isTaken;
+    else
+        m_plans.emplace(std::move(folded), Plan { name, isTaken });
 }
 
 void PlannedNames::add(const std::string &from, const std::string &to)
 {
-    m_plans.insert_or_assign(foldedName(from), Plan { from, false });
-    m_plans.insert_or_assign(foldedName(to), Plan { to, true });
+    plan(from, false);
+    plan(to, true);
 }
 
 } // namespace Varlo

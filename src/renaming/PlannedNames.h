@@ -13,7 +13,8 @@ public:
     enum class Answer {
         Untouched, ///< as it is on disk
         Taken, ///< one of the moves takes it
-        Unclear, ///< a move frees it, or takes one that some volumes hold for the same: wait for that move
+        Freed, ///< one of the moves leaves it
+        Alike, ///< a move takes or leaves one that some volumes hold for the same
     };
     [[nodiscard]] Answer ask(const std::string &name) const;
     void add(const std::string &from, const std::string &to);
@@ -23,7 +24,9 @@ private:
         std::string name;
         bool isTaken = false;
     };
-    std::unordered_map<std::string, Plan> m_plans; // by the name without case and composition
+    void plan(const std::string &name, bool isTaken);
+
+    std::unordered_multimap<std::string, Plan> m_plans; // by the name without case and composition
 };
 
 } // namespace Varlo

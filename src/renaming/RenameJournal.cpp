@@ -201,7 +201,7 @@ static Result<void, SystemError> writeAt(int file, QByteArrayView bytes, qint64 
     return {};
 }
 
-Result<void, SystemError> RenameJournal::append(std::span<const JournalRecord> records, Durability durability)
+Result<void, SystemError> RenameJournal::append(std::vector<JournalRecord> records, Durability durability)
 {
     const QByteArray bytes = encodeRecords(records);
     auto written = writeAt(m_descriptor.get(), bytes, m_size);
@@ -215,7 +215,7 @@ Result<void, SystemError> RenameJournal::append(std::span<const JournalRecord> r
         return written;
     }
     m_size += bytes.size();
-    m_records.insert(m_records.end(), records.begin(), records.end());
+    m_records.insert(m_records.end(), std::make_move_iterator(records.begin()), std::make_move_iterator(records.end()));
     return {};
 }
 
@@ -333,7 +333,7 @@ Result<void, SystemError> RenameJournal::settle()
         }
     }
     if (!marks.empty()) {
-        if (const auto appended = append(marks, Durability::Synced); !appended)
+        if (const auto appended = append(std::move(marks), Durability::Synced); !appended)
             return appended;
     }
     m_needsSettling = false;

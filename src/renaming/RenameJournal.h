@@ -55,7 +55,7 @@ public:
     // Within a session:
 
     /// On an error nothing of it is in the file.
-    [[nodiscard]] Result<void, SystemError> append(std::span<const JournalRecord> records, Durability durability);
+    [[nodiscard]] Result<void, SystemError> append(std::vector<JournalRecord> records, Durability durability);
     /// What the history lacks, in the order in which it happened; of the additions only the newest ones.
     [[nodiscard]] std::vector<HistoryChange> changes(std::size_t maximumAdditions = allAdditions) const;
     /// A rename of this process ended in a way that the files have to tell: the next session looks at them.

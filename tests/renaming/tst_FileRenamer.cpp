@@ -3,6 +3,7 @@
 #include "renaming/FileRenamer.h"
 
 #include "fakes/FakeClock.h"
+#include "renaming/planRenames.h"
 #include "renaming/TestFolder.h"
 #include <QtTest>
 #include <sys/stat.h>
@@ -24,6 +25,8 @@ private slots:
     void leavesAlone();
     void keepsEverythingButTheName();
     void renamesListInItsOrder();
+    void plansWhatIsThenDone_data();
+    void plansWhatIsThenDone();
     void plansAnewBehindAFailedMove();
     void stopsWhenTold();
     void movesNothingThatIsNotNotedDown();
@@ -193,6 +196,56 @@ void FileRenamerTest::renamesListInItsOrder()
     QCOMPARE(results, (Names { "Same.pdf", "Same 2.pdf", "SAME.pdf", "-", "New.pdf", "Old.pdf", "-" }));
     QCOMPARE(TestFolder::content(*m_folder / "Old.pdf"), "d.pdf");
     QCOMPARE(TestFolder::content(*m_folder / "New.pdf"), "Old.pdf");
+}
+
+void FileRenamerTest::plansWhatIsThenDone_data()
+{
+    using Wishes = std::vector<std::pair<std::string, QString>>;
+    QTest::addColumn<Wishes>("wishes");
+    QTest::addColumn<Names>("results");
+    const auto row = [](const char *title, const Wishes &wishes, const Names &results) {
+        QTest::newRow(title) << wishes << results;
+    };
+    row("taken on disk", { { "a.txt", u"there"_s } }, { "there 2.txt" });
+    row("taken by an earlier one", { { "a.txt", u"x"_s }, { "b.txt", u"x"_s } }, { "x.txt", "x 2.txt" });
+    row("freed by an earlier one", { { "a.txt", u"x"_s }, { "b.txt", u"a"_s } }, { "x.txt", "a.txt" });
+    row("freed, and taken again", { { "a.txt", u"x"_s }, { "b.txt", u"a"_s }, { "c.txt", u"a"_s } },
+        { "x.txt", "a.txt", "a 2.txt" });
+    row("freed too late", { { "a.txt", u"b"_s }, { "b.txt", u"x"_s } }, { "b 2.txt", "x.txt" });
+    row("taken in two spellings", { { "a.txt", u"X"_s }, { "b.txt", u"x"_s }, { "c.txt", u"X"_s } },
+        { "X.txt", "x.txt", "X 2.txt" });
+    row("one that stays", { { "a.txt", u"a"_s }, { "b.txt", u"a"_s } }, { "a.txt", "a 2.txt" });
+    row("one that is gone", { { "gone.txt", u"x"_s }, { "b.txt", u"x"_s } }, { "", "x.txt" });
+    row("one that was replaced", { { "other.txt", u"x"_s }, { "b.txt", u"x"_s } }, { "", "x.txt" });
+}
+
+void FileRenamerTest::plansWhatIsThenDone()
+{
+    using Wishes = std::vector<std::pair<std::string, QString>>;
+    QFETCH(Wishes, wishes);
+    QFETCH(Names, results);
+    for (const char *name : { "a.txt", "b.txt", "c.txt", "other.txt", "there.txt" })
+        m_folder->create(name);
+    std::vector<RenameRequest> requests;
+    for (const auto &[name, wanted] : wishes)
+        requests.push_back({ *m_folder / name, wanted, std::nullopt });
+    for (RenameRequest &request : requests) {
+        if (request.path.filename() == "other.txt")
+            request.admitted = FileIdentity { 1, 1 };
+    }
+    const Names before = m_folder->names();
+    const std::vector<FileRenamer::Outcome> planned = planRenames(requests);
+    QCOMPARE(m_folder->names(), before);
+    Names names;
+    for (const FileRenamer::Outcome &outcome : planned)
+        names.push_back(outcome ? outcome->filename().native() : "");
+    QCOMPARE(names, results);
+    int differences = 0;
+    m_renamer->renameAll(requests, [&](std::size_t index, const FileRenamer::Outcome &outcome) {
+        differences += outcome == planned[index] ? 0 : 1;
+        return FileRenamer::Next::GoOn;
+    });
+    QCOMPARE(differences, 0);
 }
 
 void FileRenamerTest::plansAnewBehindAFailedMove()

@@ -140,7 +140,7 @@ void RenameJournalTest::hearsOfOtherProcesses()
     const JournalRecord second = RenameReported { "/b", "/c", 2 };
     const auto append = [](RenameJournal &journal, const JournalRecord &record) {
         const auto session = journal.enter();
-        return session && journal.append({ &record, 1 }, RenameJournal::Durability::Unsynced);
+        return session && journal.append({ record }, RenameJournal::Durability::Unsynced);
     };
     QVERIFY(append(ours, first));
     const quint64 heard = ours.foreignChanges();
@@ -205,7 +205,7 @@ void RenameJournalTest::survivesCuts()
         // What a power cut leaves is no damage, and the next record must not be lost behind it.
         QVERIFY(journal.takeNotices().isEmpty());
         const JournalRecord next = RenameReported { "/x", "/y", 9 };
-        QVERIFY(journal.append({ &next, 1 }, RenameJournal::Durability::Unsynced));
+        QVERIFY(journal.append({ next }, RenameJournal::Durability::Unsynced));
         QCOMPARE(static_cast<qsizetype>(RenameJournal(state.path()).peek()->size()), whole + 1);
     }
 }
