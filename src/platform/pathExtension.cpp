@@ -20,7 +20,9 @@ static std::string_view extensionOf(std::string_view path)
     return dot == std::string_view::npos || dot == 0 ? std::string_view() : name.substr(dot + 1);
 }
 
-std::string pathExtension(const std::filesystem::path &path) { return std::string(extensionOf(path.native())); }
+std::string pathExtension(const std::filesystem::path &path) { return pathExtension(std::string_view(path.native())); }
+
+std::string pathExtension(std::string_view path) { return std::string(extensionOf(path)); }
 
 std::string lowerCaseExtension(std::string_view path)
 {
@@ -35,9 +37,11 @@ std::string lowerCaseExtension(const std::filesystem::path &path)
     return lowerCaseExtension(std::string_view(path.native()));
 }
 
-std::string baseName(const std::filesystem::path &path)
+std::string baseName(const std::filesystem::path &path) { return baseName(std::string_view(path.native())); }
+
+std::string baseName(std::string_view path)
 {
-    std::string_view name = lastComponent(path.native());
+    std::string_view name = lastComponent(path);
     const std::string_view extension = extensionOf(name);
     if (!extension.empty())
         name.remove_suffix(extension.size() + 1);

@@ -14,10 +14,12 @@ namespace Varlo {
 /// What stands behind the last "." of the last component. "" where there is no ".", where the name has nothing behind
 /// its last one ("notes.") or nothing before its only one (".profile").
 [[nodiscard]] std::string pathExtension(const std::filesystem::path &path);
+[[nodiscard]] std::string pathExtension(std::string_view path);
 /// The extension with A to Z made small, to be compared with lists; all other bytes stay, whatever the locale.
 [[nodiscard]] std::string lowerCaseExtension(const std::filesystem::path &path);
 [[nodiscard]] std::string lowerCaseExtension(std::string_view path);
 /// The last component without its extension.
 [[nodiscard]] std::string baseName(const std::filesystem::path &path);
+[[nodiscard]] std::string baseName(std::string_view path);
 
 } // namespace Varlo

@@ -147,13 +147,13 @@ std::string TargetName::candidate(int number, std::size_t byteLimit) const
     return start.empty() ? std::string() : start + ending;
 }
 
-static std::string extensionWithDot(const std::string &name)
+static std::string extensionWithDot(std::string_view name)
 {
     const std::string extension = pathExtension(name);
     return extension.empty() ? extension : '.' + extension;
 }
 
-Result<TargetName, RenameError> targetName(const std::string &currentName, const QString &newName)
+Result<TargetName, RenameError> targetName(std::string_view currentName, const QString &newName)
 {
     QString clean = withoutDeceptiveCharacters(sanitizeFilename(newName));
     if (!currentName.starts_with('.'))
@@ -161,15 +161,16 @@ Result<TargetName, RenameError> targetName(const std::string &currentName, const
     if (isDotsOnly(clean))
         return tl::unexpected(RenameError::InvalidName);
     TargetName target { clean.toStdString(), extensionWithDot(currentName), false };
-    const std::string name = target.candidate(1);
-    if (name.empty())
+    if (target.extension.size() >= longestName)
         return tl::unexpected(RenameError::InvalidName);
-    target.isCurrentName
-        = areCanonicallyEquivalent(name.substr(0, name.size() - target.extension.size()), baseName(currentName));
+    const std::string base = fitting(target.base, longestName - target.extension.size());
+    if (base.empty())
+        return tl::unexpected(RenameError::InvalidName);
+    target.isCurrentName = areCanonicallyEquivalent(base, baseName(currentName));
     return target;
 }
 
-TargetName formerName(const std::string &currentName, const std::string &formerBase)
+TargetName formerName(std::string_view currentName, const std::string &formerBase)
 {
     return { formerBase, extensionWithDot(currentName), formerBase == baseName(currentName) };
 }

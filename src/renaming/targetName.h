@@ -6,6 +6,7 @@
 #include "renaming/RenameFailure.h"
 #include <QString>
 #include <string>
+#include <string_view>
 
 namespace Varlo {
 
@@ -28,9 +29,9 @@ struct TargetName {
 /// control characters up to U+009F; invisible ones, which act on the direction of the text or let two names look alike
 /// (joiners stay where they shape an emoji or a script). A lone surrogate, which has no UTF-8, becomes U+FFFD.
 /// Errors: InvalidName.
-[[nodiscard]] Result<TargetName, RenameError> targetName(const std::string &currentName, const QString &newName);
+[[nodiscard]] Result<TargetName, RenameError> targetName(std::string_view currentName, const QString &newName);
 
 /// The target for a base name that the file had before: it comes back as it was, byte for byte.
-[[nodiscard]] TargetName formerName(const std::string &currentName, const std::string &formerBase);
+[[nodiscard]] TargetName formerName(std::string_view currentName, const std::string &formerBase);
 
 } // namespace Varlo

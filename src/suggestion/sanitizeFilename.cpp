@@ -8,7 +8,23 @@ namespace Varlo {
 
 static bool isQuotationMark(QChar character) { return character == u'"' || character == u'\'' || character == u'`'; }
 
-static bool isIllegal(QChar character) { return character < u' ' || QStringView(u"<>:\"/\\|?*").contains(character); }
+static bool isIllegal(QChar character)
+{
+    switch (character.unicode()) {
+    case u'<':
+    case u'>':
+    case u':':
+    case u'"':
+    case u'/':
+    case u'\\':
+    case u'|':
+    case u'?':
+    case u'*':
+        return true;
+    default:
+        return character < u' ';
+    }
+}
 
 QString sanitizeFilename(const QString &name)
 {
@@ -18,12 +34,8 @@ QString sanitizeFilename(const QString &name)
     while (!core.isEmpty() && isQuotationMark(core.back()))
         core.chop(1);
 
-    QString clean;
-    clean.reserve(core.size());
-    for (const QChar character : core) {
-        if (!isIllegal(character))
-            clean.append(character);
-    }
+    QString clean = core.toString();
+    clean.removeIf(&isIllegal);
     // simplified() makes one space of every run of white space and trims both ends.
     return firstCharacters(clean.simplified(), 120).toString();
 }
