@@ -85,6 +85,7 @@ private:
     [[nodiscard]] Result<void, SystemError> keepDamaged(const QByteArray &content);
     [[nodiscard]] Result<void, SystemError> setAside();
     [[nodiscard]] Result<void, SystemError> rewrite(std::vector<JournalRecord> records);
+    void reserve(qint64 byteCount);
     [[nodiscard]] Result<void, SystemError> settle();
     [[nodiscard]] Result<void, SystemError> tellOfUnknown();
 
@@ -96,6 +97,7 @@ private:
     std::vector<JournalRecord> m_records;
     quint64 m_epoch = 0; ///< the number in the file's head; each rewritten file has another
     qint64 m_size = 0; ///< of what was read or written
+    qint64 m_reservedSize = 0; ///< the file's own: behind `m_size` it has zeros, for records to come
     quint64 m_foreignChanges = 0;
     bool m_needsSettling = false;
     QStringList m_notices;

@@ -17,8 +17,10 @@ private slots:
     void settlesWhatADeadProcessBegan_data();
     void settlesWhatADeadProcessBegan();
     void waitsForADriveThatIsAway();
+    void hearsOfOtherProcesses_data();
     void hearsOfOtherProcesses();
     void keepsWhatHasNoOutcome();
+    void survivesCuts_data();
     void survivesCuts();
     void survivesFlips();
     void setsAsideWhatIsNoFile_data();
@@ -131,8 +133,16 @@ void RenameJournalTest::waitsForADriveThatIsAway()
     QCOMPARE(journal.peek()->size(), 1u);
 }
 
+void RenameJournalTest::hearsOfOtherProcesses_data()
+{
+    QTest::addColumn<bool>("isReserved");
+    QTest::newRow("the file grows with each record") << false;
+    QTest::newRow("zeros stand behind the records") << true;
+}
+
 void RenameJournalTest::hearsOfOtherProcesses()
 {
+    QFETCH(bool, isReserved);
     const TestFolder state;
     RenameJournal ours(state.path());
     RenameJournal theirs(state.path());
@@ -142,12 +152,19 @@ void RenameJournalTest::hearsOfOtherProcesses()
         const auto session = journal.enter();
         return session && journal.append({ record }, RenameJournal::Durability::Unsynced);
     };
+    if (isReserved) {
+        const auto session = ours.enter();
+        for (int group = 0; group < 2; ++group)
+            QVERIFY(ours.append(std::vector<JournalRecord>(500, first), RenameJournal::Durability::Unsynced));
+    }
     QVERIFY(append(ours, first));
+    QCOMPARE(std::filesystem::file_size(state / "renames.journal") > static_cast<quint64>(ours.size()), isReserved);
+    const std::size_t known = ours.peek()->size();
     const quint64 heard = ours.foreignChanges();
     QVERIFY(ours.enter());
     QCOMPARE(ours.foreignChanges(), heard);
     QVERIFY(append(theirs, second));
-    QCOMPARE(ours.peek()->size(), 2u);
+    QCOMPARE(ours.peek()->size(), known + 1);
     QVERIFY(ours.enter());
     QVERIFY(ours.foreignChanges() > heard);
     {
@@ -184,19 +201,29 @@ static QByteArray fiveRecords()
     QByteArray content = journalHead(42);
     for (int number = 0; number < 5; ++number) {
         const std::string text = std::to_string(number);
-        const JournalRecord record = RenameReported { "/old/" + text, "/new/" + text, 1.0 * number };
+        const JournalRecord record
+            = RenameReported { "/old/" + text, "/new/" + text, number + 0.1 }; // its last byte is no zero
         content += encodeRecords({ &record, 1 });
     }
     return content;
 }
 
+void RenameJournalTest::survivesCuts_data()
+{
+    QTest::addColumn<int>("zeros");
+    QTest::newRow("the file ends there") << 0;
+    QTest::newRow("the rest was reserved") << 5000;
+}
+
 void RenameJournalTest::survivesCuts()
 {
+    QFETCH(int, zeros);
     const QByteArray content = fiveRecords();
     const qsizetype recordSize = (content.size() - journalHeadSize) / 5;
-    for (qsizetype size = 0; size <= content.size(); ++size) {
+    // The head comes whole, by a rename, before there are zeros.
+    for (qsizetype size = zeros > 0 ? journalHeadSize : 0; size <= content.size(); ++size) {
         const TestFolder state;
-        state.create("renames.journal", content.first(size).toStdString());
+        state.create("renames.journal", (content.first(size) + QByteArray(zeros, '\0')).toStdString());
         RenameJournal journal(state.path());
         const auto session = journal.enter();
         QVERIFY(session);
