@@ -57,6 +57,16 @@ TemplateStore &Session::templateStore()
     return *m_templateStore;
 }
 
+std::optional<NameTemplate> Session::nameTemplate(const QString &id)
+{
+    std::optional<NameTemplate> found = templateStore().nameTemplate(id);
+    if (!found) {
+        m_terminal.complain(
+            QCoreApplication::translate("Terminal", "there is no template with the id “%1”").arg(terminalText(id)));
+    }
+    return found;
+}
+
 FolderAccess &Session::folderAccess()
 {
     if (!m_folderAccess)

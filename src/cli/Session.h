@@ -47,6 +47,8 @@ public:
     [[nodiscard]] const SystemLocale &locale() const { return m_locale; }
     [[nodiscard]] SecretStore &secretStore();
 
+    /// Complains and returns nothing where there is none with the id.
+    [[nodiscard]] std::optional<NameTemplate> nameTemplate(const QString &id);
     /// The endpoint of an option, else of the environment, else of the preference, else the hosted one. Complains and
     /// returns nothing where it cannot be used.
     [[nodiscard]] std::optional<Endpoint> endpoint(const std::optional<QString> &option);

@@ -24,12 +24,6 @@ static void stopOnInterrupt()
     std::signal(SIGINT, [](int) { isInterrupted = 1; });
 }
 
-static const FileItem *findItem(const RenamerViewModel &batch, const QUuid &id)
-{
-    const auto item = std::ranges::find(batch.files(), id, &FileItem::id);
-    return item == batch.files().end() ? nullptr : &*item;
-}
-
 /// What will happen to each file, numbers included; the outcome of a file that will get no name is why not.
 static std::vector<FileRenamer::Outcome> planBatch(const std::vector<const FileItem *> &items)
 {
@@ -147,7 +141,7 @@ ExitCode run(const RenameCommand &command, Session &session)
 
     std::vector<const FileItem *> items;
     for (const QUuid &id : batch.renamableFiles())
-        items.push_back(findItem(batch, id));
+        items.push_back(&batch.files()[static_cast<std::size_t>(*batch.rowOf(id))]);
     const auto count = static_cast<qsizetype>(items.size());
     tellOfRest(batch, terminal);
     if (!command.json && !items.empty())

@@ -17,13 +17,6 @@ static ExitCode saved(const Result<void, SystemError> &result, Terminal &termina
     return ExitCode::SomeFailed;
 }
 
-static ExitCode complainOfUnknown(const QString &id, Terminal &terminal)
-{
-    terminal.complain(
-        QCoreApplication::translate("Terminal", "there is no template with the id “%1”").arg(terminalText(id)));
-    return ExitCode::WrongUsage;
-}
-
 ExitCode run(const TemplatesListCommand &command, Session &session)
 {
     Terminal &terminal = session.terminal();
@@ -66,28 +59,26 @@ ExitCode run(const TemplatesAddCommand &command, Session &session)
 
 ExitCode run(const TemplatesEditCommand &command, Session &session)
 {
-    TemplateStore &store = session.templateStore();
-    std::optional<NameTemplate> nameTemplate = store.nameTemplate(command.id);
+    std::optional<NameTemplate> nameTemplate = session.nameTemplate(command.id);
     if (!nameTemplate)
-        return complainOfUnknown(command.id, session.terminal());
+        return ExitCode::WrongUsage;
     if (command.name)
         nameTemplate->name = command.name;
     if (!command.fields.isEmpty())
         nameTemplate->fields = command.fields;
-    return saved(store.updateTemplate(*nameTemplate), session.terminal());
+    return saved(session.templateStore().updateTemplate(*nameTemplate), session.terminal());
 }
 
 ExitCode run(const TemplatesRemoveCommand &command, Session &session)
 {
-    TemplateStore &store = session.templateStore();
-    if (!store.nameTemplate(command.id))
-        return complainOfUnknown(command.id, session.terminal());
+    if (!session.nameTemplate(command.id))
+        return ExitCode::WrongUsage;
     if (builtInTemplateName(command.id)) {
         session.terminal().complain(
             QCoreApplication::translate("Terminal", "the built-in templates cannot be removed"));
         return ExitCode::WrongUsage;
     }
-    return saved(store.deleteTemplate(command.id), session.terminal());
+    return saved(session.templateStore().deleteTemplate(command.id), session.terminal());
 }
 
 } // namespace Varlo

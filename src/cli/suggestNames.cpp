@@ -58,11 +58,7 @@ static bool applyOptions(const NamingOptions &naming, Session &session)
 {
     if (naming.tags)
         session.preferences().setForThisProcess(Preference::writeFinderTags, *naming.tags);
-    if (!naming.templateId || session.templateStore().nameTemplate(*naming.templateId))
-        return true;
-    session.terminal().complain(QCoreApplication::translate("Terminal", "there is no template with the id “%1”")
-                                    .arg(terminalText(*naming.templateId)));
-    return false;
+    return !naming.templateId || session.nameTemplate(*naming.templateId);
 }
 
 static void complainOfRefused(

@@ -105,6 +105,8 @@ public:
     /// The files that "Rename All" would rename now: suggested, already renamed, without text or failed, and with a
     /// name.
     [[nodiscard]] std::vector<QUuid> renamableFiles() const;
+    /// Where the file is now; nothing once it has left the batch. In constant time.
+    [[nodiscard]] std::optional<int> rowOf(const QUuid &id) const;
     /// Renames one file, if it may be; its outcome is its status.
     QCoro::Task<void> rename(QUuid id);
     /// Renames the files that can be renamed at this moment, in the batch's order, and gives the event loop back in
@@ -177,7 +179,6 @@ private:
     void failRename(const QUuid &id, const QString &message);
     void takeBack(const std::filesystem::path &renamedPath, const std::filesystem::path &restoredPath);
     void setPath(int row, const std::filesystem::path &path);
-    [[nodiscard]] std::optional<int> rowOf(const QUuid &id) const;
     void setStatus(int row, const FileItem::Status &status);
     void setSuggestion(int row, const QString &name, const QStringList &tags);
     void countStatus(const FileItem::Status &status, int change);
