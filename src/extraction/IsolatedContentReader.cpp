@@ -146,7 +146,7 @@ QCoro::Task<WorkerOutcome> IsolatedContentReader::State::askWithAll(Shared state
     co_return outcome;
 }
 
-/// One who asked for a file's content and got something else was lied to, and the decoder has refused that before.
+/// An answer to another question, or one that asks for libraries a second time, comes from nobody who means well.
 template <typename Outcome, typename TakeContent>
 static Outcome fromWorker(const WorkerOutcome &outcome, const TakeContent &takeContent)
 {
