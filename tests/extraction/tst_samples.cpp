@@ -33,9 +33,6 @@ private:
     QTemporaryDir m_pictures;
 };
 
-// Kinds whose reader is not there yet.
-static const QStringList extensionsNotReadYet { u"pdf"_s };
-
 static const QDir inbox(u"" VARLO_SOURCE_DIR "/samples/inbox"_s);
 static const QDir expectations(u"" VARLO_SOURCE_DIR "/samples/expected"_s);
 
@@ -132,10 +129,7 @@ static QString faultOfPicture(const QString &path, const QJsonObject &read, cons
 
 void SamplesTest::initTestCase()
 {
-    QStringList arguments { u"extract"_s, u"--json"_s };
-    if (!extensionsNotReadYet.contains(u"png"_s)) // the option comes with the reader of pictures
-        arguments << u"--image-dir"_s << m_pictures.path();
-    arguments << u"--"_s;
+    QStringList arguments { u"extract"_s, u"--json"_s, u"--image-dir"_s, m_pictures.path(), u"--"_s };
     for (const QString &name : inbox.entryList(QDir::Files))
         arguments << inbox.filePath(name);
     QProcess varlo;
@@ -165,8 +159,7 @@ void SamplesTest::areReadAsExpected_data()
 {
     QTest::addColumn<QString>("name");
     for (const QString &name : inbox.entryList(QDir::Files)) {
-        if (!extensionsNotReadYet.contains(lowerExtension(name)))
-            QTest::newRow(qPrintable(name)) << name;
+        QTest::newRow(qPrintable(name)) << name;
     }
 }
 
