@@ -51,8 +51,10 @@ bool decodeWithQt(const FileDescriptor &file, PictureKind kind, PictureRows &row
     const QSize size = reader.size();
     if (!size.isEmpty() && isTooLarge(size.width(), size.height()))
         return false;
-    const QImage image = reader.read();
-    if (image.isNull())
+    // Qt reads into what it is given, if that fits. Rows that a truncated BMP lacks would be whatever memory held.
+    QImage image(size, reader.imageFormat());
+    image.fill(Qt::white);
+    if (!reader.read(&image))
         return false;
     PictureHeader header { image.size() };
     header.layout = image.hasAlphaChannel() ? PixelLayout::RGBA : PixelLayout::RGB;

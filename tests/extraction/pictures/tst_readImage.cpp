@@ -188,6 +188,7 @@ void ReadImageTest::endsOnDamage_data()
                                     << u"40x24 red green blue yellow"_s;
     QTest::newRow("half a jpeg") << half(saved(image, "jpeg")) << u"400x240 red green grey grey"_s;
     QTest::newRow("half a png") << half(saved(image, "png", 100)) << u"400x240 red green white white"_s;
+    QTest::newRow("half a bmp") << half(saved(image.scaled(40, 24), "bmp")) << u"40x24 white white blue yellow"_s;
     QTest::newRow("start of a jpeg") << saved(image, "jpeg").first(200) << u"nothing"_s;
     QTest::newRow("start of a png") << saved(image, "png").first(33) << u"nothing"_s;
     for (const char *const name : { "animated.gif", "alpha.webp", "exif.heic", "quarters.exr", "big-endian.tif" })
