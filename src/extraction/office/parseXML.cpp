@@ -4,6 +4,7 @@
 #include "extraction/office/parseXML.h"
 
 #include "extraction/office/decodeUtf8.h"
+#include <algorithm>
 #include <expat.h>
 #include <memory>
 
@@ -11,6 +12,7 @@ namespace Varlo {
 
 // No office program nests as deep; expat takes some 150 bytes a level, and a part has room for a million.
 constexpr int deepestNesting = 1000;
+constexpr qsizetype firstSlice = 64 * 1024; // bytes
 
 namespace {
 struct Parsing {
@@ -86,7 +88,15 @@ void parseXML(QByteArrayView document, XMLHandler &handler)
     XML_SetDefaultHandler(parser.get(), [](void *, const char *, int) {});
     XML_SetBillionLaughsAttackProtectionActivationThreshold(parser.get(), 0);
     XML_SetBillionLaughsAttackProtectionMaximumAmplification(parser.get(), 2);
-    XML_Parse(parser.get(), document.data(), static_cast<int>(document.size()), XML_TRUE);
+    // expat copies what it is given. Most handlers have enough after the first slice; each further one is as long as
+    // all before, since a tag that goes on is read from its start again.
+    XML_Status status = XML_STATUS_OK;
+    for (qsizetype at = 0; at < document.size() && status == XML_STATUS_OK;) {
+        const qsizetype size = std::min(std::max(at, firstSlice), document.size() - at);
+        const bool isLast = at + size == document.size();
+        status = XML_Parse(parser.get(), document.data() + at, static_cast<int>(size), isLast);
+        at += size;
+    }
 }
 
 } // namespace Varlo

@@ -49,14 +49,12 @@ void ZipFileTest::lists_data()
     };
     const auto commented = [&](const QByteArray &comment) { return buildZip(three, { .comment = comment }); };
     row("in the directory's order", buildZip({ { "b", text }, { "a", text }, { "b", text } }), u"b|a|b"_s);
-    row("empty file", ""_ba, u""_s);
     row("nothing but an end that is a byte short", end.chopped(1), u""_s);
     row("no end", archive.chopped(22) + QByteArray(22, 'x'), u""_s);
     row("longest comment", commented(QByteArray(65535, 'x')), u"a|b|c"_s);
     row("comment a byte too long", commented(QByteArray(65536, 'x')), u""_s);
     row("later of two ends", commented(buildZip({})), u""_s);
     row("end's signature too late for an end", commented("PK\5\6"_ba + QByteArray(17, 'x')), u"a|b|c"_s);
-    row("no entries, says the count", buildZip(three, { .claimedCount = 0 }), u""_s);
     row("fewer entries, says the count", buildZip(three, { .claimedCount = 2 }), u"a|b"_s);
     row("more entries, says the count", buildZip(three, { .claimedCount = 65535 }), u"a|b|c"_s);
     row("wrong signature in the second", QByteArray(archive).replace(secondRecord, 4, "PK\1\3"_ba), u"a"_s);
@@ -66,15 +64,14 @@ void ZipFileTest::lists_data()
     const auto atTheEnd = [&](qsizetype missing) {
         return buildZip({}, { .claimedCount = 3, .claimedOffset = 22, .comment = directory.chopped(missing) });
     };
+    row("odd names", buildZip({ { "\xE9.xml"_ba, text }, { "\uFEFFa"_ba, text }, { "a\0b"_ba, text } }),
+        u"\uFFFD.xml|\uFEFFa|a\0b"_s);
     row("directory up to the last byte", atTheEnd(0), u"a|b|c"_s);
     row("extra field cut short", atTheEnd(1), u"a|b|c"_s);
     row("name cut short", atTheEnd(5), u"a|b"_s);
     row("record cut short", atTheEnd(6), u"a|b"_s);
     row("first name cut short", atTheEnd(directory.size() - 46), u""_s);
     row("first record cut short", atTheEnd(directory.size() - 45), u""_s);
-    row("not UTF-8", buildZip({ { "caf\xE9.xml"_ba, text } }), u"caf\uFFFD.xml"_s);
-    row("byte order mark in a name", buildZip({ { "\uFEFFa", text } }), u"\uFEFFa"_s);
-    row("name with a NUL", buildZip({ { "a\0b"_ba, text } }), u"a\0b"_s);
 }
 
 void ZipFileTest::lists()
@@ -111,17 +108,13 @@ void ZipFileTest::reads_data()
     row("says 4 GiB", { .name = "a", .data = text, .claimedSize = 0xFFFFFFFF }, "absent"_ba);
     row("says nothing", { .name = "a", .data = text, .claimedSize = 0 }, ""_ba);
     row("nothing compressed", { .name = "a", .data = text, .claimedCompressedSize = 0 }, ""_ba);
-    row("stored does not care for its size", { .name = "a", .data = text, .method = 0, .claimedSize = 1 }, text);
-    row("nothing stored", { "a", ""_ba, 0 }, ""_ba);
-    row("compressed by bzip2", { "a", text, 12 }, "absent"_ba);
-    row("compressed by LZMA", { "a", text, 14 }, "absent"_ba);
+    row("compressed otherwise", { "a", text, 12 }, "absent"_ba);
     row("data behind the end of the file", { .name = "a", .data = text, .claimedCompressedSize = 0xFFFFFFFF },
         "absent"_ba);
     row("header behind the end of the file", { .name = "a", .data = text, .claimedOffset = 0xFFFFFFFF }, "absent"_ba);
     row("header with a wrong signature", { .name = "a", .data = text, .claimedOffset = 1 }, "absent"_ba);
     row("end of the stream is missing", { .name = "a", .data = text, .claimedCompressedSize = 20 }, "absent"_ba);
-    const QByteArray uncompressedBlock = "\0\2\0\xFD\xFF"_ba
-                                         "ab"_ba; // RFC 1951, section 3.2.4
+    const QByteArray uncompressedBlock = "\0\2\0\xFD\xFF\x61\x62"_ba; // RFC 1951, section 3.2.4
     const QByteArray blockOfNoType = "\7"_ba;
     row("damaged behind the size", { .name = "a", .data = "ab", .stream = uncompressedBlock + blockOfNoType }, "ab"_ba);
     row("damaged within the size", { .name = "a", .data = "abc", .stream = uncompressedBlock + blockOfNoType },
