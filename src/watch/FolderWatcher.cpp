@@ -118,8 +118,7 @@ void FolderWatcher::takePendingEvents()
 
 void FolderWatcher::scan()
 {
-    takePendingEvents(); // with the loop kept busy, the time may be up though a file is still being written
-    if (!m_watch || m_isPaused || m_scanTimer.isActive())
+    if (m_isPaused || m_scanTimer.isActive())
         return;
     if (m_watch->isListing)
         m_watch->isScanDue = true;
