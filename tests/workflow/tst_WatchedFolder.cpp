@@ -17,8 +17,7 @@ class WatchedFolderTest : public QObject {
 private slots:
     void suggestsNamesForNewFiles();
     void passesOverFilesOfTheBatch();
-    void followsThePreferences_data();
-    void followsThePreferences();
+    void followsThePreferencesWhoeverChangesThem();
     void restartsOnlyWhereItMatters();
     void findsAFolderByItsBytes();
     void opensTheGrantOfTheFolder();
@@ -79,50 +78,29 @@ void WatchedFolderTest::passesOverFilesOfTheBatch()
     QCoro::waitFor(task);
 }
 
-void WatchedFolderTest::followsThePreferences_data()
+void WatchedFolderTest::followsThePreferencesWhoeverChangesThem()
 {
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<bool>("isWatching");
-    QTest::addColumn<QStringList>("files"); // that are taken, of those made before and after the change
-    QTest::newRow("switched off") << Preference::watchFolderEnabled.name << QVariant(false) << false << QStringList {};
-    QTest::newRow("no folder") << Preference::watchFolderPath.name << QVariant(QString()) << false << QStringList {};
-    QTest::newRow("a folder that is not there")
-        << Preference::watchFolderPath.name << QVariant(u"/nonexistent"_s) << false << QStringList {};
-    QTest::newRow("another folder") << Preference::watchFolderPath.name << QVariant(u"two"_s) << true
-                                    << QStringList { u"two/new.txt"_s };
-    QTest::newRow("existing files as well") << Preference::watchFolderIncludeExisting.name << QVariant(true) << true
-                                            << QStringList { u"one/old.txt"_s, u"one/new.txt"_s };
-}
-
-void WatchedFolderTest::followsThePreferences()
-{
-    QFETCH(QString, key);
-    QFETCH(QVariant, value);
-    QFETCH(bool, isWatching);
-    QFETCH(QStringList, files);
     Watched test;
     test.watcher.stop();
     test.make("one/old.txt");
     test.make("two/old.txt");
     test.watched.apply(); // from here on they are existing ones
-    QVERIFY(test.watcher.isWatching());
-
     QSignalSpy changes(&test.watcher, &FolderWatcher::isWatchingChanged);
-    const bool isFolder = value.toString() == u"two";
-    if (value.typeId() == QMetaType::Bool)
-        test.store.changeElsewhere(key, value.toBool());
-    else
-        test.store.changeElsewhere(key, isFolder ? shownPath(test.folder / "two") : value.toString());
-    QTRY_COMPARE(changes.count(), isWatching ? 2 : 1);
-    QCOMPARE(test.watcher.isWatching(), isWatching);
-    if (!isWatching)
-        return;
-    if (files.size() > 1)
-        QTRY_COMPARE(test.names(), files.first(1));
-    if (isFolder)
-        test.make("one/new.txt");
-    QCOMPARE(test.namesAfter(files.last().toStdString()), files);
+    test.prefer(Preference::watchFolderPath, shownPath(test.folder / "two"));
+    QTRY_COMPARE(changes.count(), 2); // stopped and started
+    test.make("one/new.txt");
+    QCOMPARE(test.namesAfter("two/new.txt"), QStringList { u"two/new.txt"_s });
+    test.prefer(Preference::watchFolderIncludeExisting, true);
+    QTRY_COMPARE(test.names(), (QStringList { u"two/new.txt"_s, u"two/old.txt"_s }));
+
+    for (const QString &nothing : { u"/nonexistent"_s, QString() }) {
+        test.prefer(Preference::watchFolderPath, nothing);
+        QTRY_VERIFY(!test.watcher.isWatching());
+        test.prefer(Preference::watchFolderPath, shownPath(test.folder / "two"));
+        QTRY_VERIFY(test.watcher.isWatching());
+    }
+    test.prefer(Preference::watchFolderEnabled, false);
+    QTRY_VERIFY(!test.watcher.isWatching());
 }
 
 void WatchedFolderTest::restartsOnlyWhereItMatters()
