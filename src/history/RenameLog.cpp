@@ -13,9 +13,6 @@ namespace Varlo {
 
 using std::filesystem::path;
 
-/// Data that is no log reads as an empty one.
-static RenameLogEntries decoded(const QByteArray &data) { return decodeRenameLog(data).value_or(RenameLogEntries {}); }
-
 RenameLog::RenameLog(Preferences &preferences, FileRenamer &renamer, FolderAccess &access, QObject *parent)
     : QAbstractListModel(parent)
     , m_preferences(preferences)
@@ -173,12 +170,22 @@ void RenameLog::storeUnlessInAction()
     static_cast<void>(store());
 }
 
+/// Nothing for data that is no log. The array is mostly the one of the last time.
+const std::optional<RenameLogEntries> &RenameLog::decoded(const QByteArray &data)
+{
+    if (!m_decodedEntries || m_decodedData != data) {
+        m_decodedEntries = decodeRenameLog(data);
+        m_decodedData = data;
+    }
+    return m_decodedEntries;
+}
+
 void RenameLog::readWithoutSession()
 {
     const auto changes = m_renamer.journal().peek(maximumLogEntries);
     m_journalError = changes ? std::nullopt : std::optional(changes.error());
-    adopt(applyHistoryChanges(
-        decoded(m_preferences.data(Preference::renameLog)), changes.value_or(std::vector<HistoryChange> {})));
+    adopt(applyHistoryChanges(decoded(m_preferences.data(Preference::renameLog)).value_or(RenameLogEntries {}),
+        changes.value_or(std::vector<HistoryChange> {})));
 }
 
 /// Puts what the journal has into the preferences, and then out of the journal.
@@ -194,7 +201,7 @@ Result<void, SystemError> RenameLog::store()
     Result<void, SystemError> kept;
     const auto stored = m_preferences.update(Preference::renameLog, [&](const PreferenceValue &current) {
         const auto &data = std::get<QByteArray>(current);
-        const auto log = decodeRenameLog(data);
+        const auto &log = decoded(data);
         entries = applyHistoryChanges(log.value_or(RenameLogEntries {}), changes);
         if (changes.empty())
             return current;
@@ -222,8 +229,8 @@ void RenameLog::readAgain()
     const QScopedValueRollback isStoring(m_isStoring, true);
     static_cast<void>(
         m_preferences.update(Preference::renameLog, [](const PreferenceValue &current) { return current; }));
-    adopt(applyHistoryChanges(
-        decoded(m_preferences.data(Preference::renameLog)), m_renamer.journal().changes(maximumLogEntries)));
+    adopt(applyHistoryChanges(decoded(m_preferences.data(Preference::renameLog)).value_or(RenameLogEntries {}),
+        m_renamer.journal().changes(maximumLogEntries)));
 }
 
 void RenameLog::record(const path &from, const path &to)

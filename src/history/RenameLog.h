@@ -104,6 +104,7 @@ private:
     void endAction();
     void storeUnlessInAction();
     [[nodiscard]] Result<void, SystemError> store();
+    [[nodiscard]] const std::optional<RenameLogEntries> &decoded(const QByteArray &data);
     void readWithoutSession();
     void readAgain();
     void adopt(RenameLogEntries entries);
@@ -115,6 +116,8 @@ private:
     FileRenamer &m_renamer;
     FolderAccess &m_access;
     RenameLogEntries m_entries;
+    QByteArray m_decodedData; ///< the latest array taken apart, and what was in it
+    std::optional<RenameLogEntries> m_decodedEntries;
     std::unordered_map<std::string, int> m_standingNames; ///< how many standing renames led to a name
     int m_openActions = 0;
     bool m_isStoring = false;

@@ -174,10 +174,15 @@ Result<void, SystemError> RenameJournal::setAside()
     return {};
 }
 
-Result<void, SystemError> RenameJournal::rewrite(std::vector<JournalRecord> records)
+static quint64 newEpoch()
 {
     // Zero stands for a file that was never read.
-    const quint64 epoch = std::max<quint64>(QRandomGenerator::system()->generate64(), 1);
+    return std::max<quint64>(QRandomGenerator::system()->generate64(), 1);
+}
+
+Result<void, SystemError> RenameJournal::rewrite(std::vector<JournalRecord> records)
+{
+    const quint64 epoch = newEpoch();
     const QByteArray content = journalHead(epoch) + encodeRecords(records);
     removeReplacementLeftovers(m_file);
     if (const auto replaced = replaceFile(m_file, content, ReplacedMode::OwnerOnly); !replaced)
@@ -277,6 +282,22 @@ static bool isLinkingMark(const JournalRecord &record, const std::vector<RenameI
     });
 }
 
+/// In place and without a sync: whatever a power cut leaves of this and of the records before is changes that the
+/// history has, and it takes them a second time without harm.
+Result<void, SystemError> RenameJournal::empty()
+{
+    const quint64 epoch = newEpoch(); // first: nobody may take what comes next for what was there
+    if (const auto written = writeAt(m_descriptor.get(), journalHead(epoch), 0); !written)
+        return written;
+    m_epoch = epoch;
+    if (retryInterrupted([&] { return ::ftruncate(m_descriptor.get(), journalHeadSize); }) != 0)
+        return latestError();
+    m_records = {}; // and with it the memory
+    m_size = journalHeadSize;
+    m_reservedSize = m_size;
+    return {};
+}
+
 Result<void, SystemError> RenameJournal::forgetChanges()
 {
     const std::vector<RenameIntent> intents = intentsWithoutOutcome(m_records);
@@ -285,6 +306,8 @@ Result<void, SystemError> RenameJournal::forgetChanges()
         [&](const JournalRecord &record) { return isLinkingMark(record, intents); });
     if (left.size() == m_records.size())
         return {};
+    if (left.empty())
+        return empty();
     return rewrite(std::move(left));
 }
 

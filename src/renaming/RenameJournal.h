@@ -84,6 +84,7 @@ private:
     [[nodiscard]] Result<void, SystemError> read();
     [[nodiscard]] Result<void, SystemError> keepDamaged(const QByteArray &content);
     [[nodiscard]] Result<void, SystemError> setAside();
+    [[nodiscard]] Result<void, SystemError> empty();
     [[nodiscard]] Result<void, SystemError> rewrite(std::vector<JournalRecord> records);
     void reserve(qint64 byteCount);
     [[nodiscard]] Result<void, SystemError> settle();

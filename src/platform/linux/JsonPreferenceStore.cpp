@@ -80,15 +80,6 @@ QJsonValue encode(const PreferenceValue &value)
         value);
 }
 
-/// Nothing when the content is not one JSON object.
-std::optional<QJsonObject> parse(const QByteArray &content)
-{
-    const QJsonDocument document = QJsonDocument::fromJson(content);
-    if (!document.isObject())
-        return {};
-    return document.object();
-}
-
 bool isDamage(const StateFileError &error) { return error.kind == StateFileError::Kind::TooLarge; }
 
 bool isAbsence(const StateFileError &error)
@@ -196,6 +187,19 @@ Result<QJsonObject, SystemError> JsonPreferenceStore::readOrReplace()
             return tl::unexpected(written.error());
     }
     return m_values;
+}
+
+/// Nothing when the content is not one JSON object. It is mostly that of the last time.
+std::optional<QJsonObject> JsonPreferenceStore::parse(const QByteArray &content)
+{
+    if (m_parsedContent.isEmpty() || content != m_parsedContent) {
+        const QJsonDocument document = QJsonDocument::fromJson(content);
+        if (!document.isObject())
+            return {};
+        m_parsedContent = content;
+        m_parsedValues = document.object();
+    }
+    return m_parsedValues;
 }
 
 Result<void, SystemError> JsonPreferenceStore::write(const QJsonObject &values)

@@ -47,6 +47,7 @@ private:
     [[nodiscard]] Result<void, SystemError> write(const QJsonObject &values);
     [[nodiscard]] Result<void, SystemError> setAsideDamaged();
     [[nodiscard]] Result<void, SystemError> copyUnderLock();
+    [[nodiscard]] std::optional<QJsonObject> parse(const QByteArray &content);
     [[nodiscard]] QSet<QString> adopt(const QJsonObject &values);
     void load();
     void reload();
@@ -56,6 +57,8 @@ private:
 
     std::filesystem::path m_file;
     QJsonObject m_values; ///< as read or written last
+    QByteArray m_parsedContent; ///< of the file, and what it says
+    QJsonObject m_parsedValues;
     std::optional<SystemError> m_readError;
     bool m_isLocked = false; ///< by a call further up the stack
     bool m_hasCopied = false;
