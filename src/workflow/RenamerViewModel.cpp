@@ -21,6 +21,25 @@ namespace Varlo {
 
 using namespace std::chrono_literals;
 
+/// Whether the user may type a name for the file: once it was looked at, until it is renamed.
+static bool hasNameField(const FileItem &item)
+{
+    return std::visit(Overloaded {
+                          [](FileItem::Pending) { return false; },
+                          [](FileItem::Processing) { return false; },
+                          [](FileItem::Suggested) { return true; },
+                          [](FileItem::Renamed) { return false; },
+                          [](FileItem::AlreadyRenamed) { return true; },
+                          [](FileItem::NoTextFound) { return true; },
+                          [](FileItem::NotSupportedYet) { return false; },
+                          [](const FileItem::Failed &) { return true; },
+                      },
+        item.status);
+}
+
+/// Whether a rename action may touch the file: not while it waits or is worked on, not twice, and not without a name.
+static bool isRenamable(const FileItem &item) { return !item.suggestedName.isEmpty() && hasNameField(item); }
+
 RenamerViewModel::RenamerViewModel(const Collaborators &collaborators, QObject *parent)
     : QAbstractListModel(parent)
     , m_with(collaborators)
@@ -44,8 +63,16 @@ QVariant RenamerViewModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
     case FileNameRole:
         return shownPath(item.path.filename());
+    case ExtensionRole: {
+        const std::string extension = pathExtension(item.path.filename());
+        return extension.empty() ? QString() : u'.' + shownPath(extension);
+    }
+    case FolderNameRole:
+        return shownPath(item.path.parentPath().filename());
     case StatusRole:
         return rawValue(item.status);
+    case StatusLabelRole:
+        return label(item.status);
     case MessageRole: {
         const auto *failed = std::get_if<FileItem::Failed>(&item.status);
         return failed ? failed->message : QString();
@@ -60,6 +87,10 @@ QVariant RenamerViewModel::data(const QModelIndex &index, int role) const
         return item.byteSize;
     case IconNameRole:
         return iconName(item);
+    case HasNameFieldRole:
+        return hasNameField(item);
+    case CanRenameRole:
+        return isRenamable(item);
     default:
         return {};
     }
@@ -67,9 +98,11 @@ QVariant RenamerViewModel::data(const QModelIndex &index, int role) const
 
 QHash<int, QByteArray> RenamerViewModel::roleNames() const
 {
-    return { { IdRole, "itemId" }, { PathRole, "path" }, { FileNameRole, "fileName" }, { StatusRole, "status" },
+    return { { IdRole, "itemId" }, { PathRole, "path" }, { FileNameRole, "fileName" }, { ExtensionRole, "extension" },
+        { FolderNameRole, "folderName" }, { StatusRole, "status" }, { StatusLabelRole, "statusLabel" },
         { MessageRole, "message" }, { SuggestedNameRole, "suggestedName" }, { SuggestedTagsRole, "suggestedTags" },
-        { PreviousNameRole, "previousName" }, { ByteSizeRole, "byteSize" }, { IconNameRole, "iconName" } };
+        { PreviousNameRole, "previousName" }, { ByteSizeRole, "byteSize" }, { IconNameRole, "iconName" },
+        { HasNameFieldRole, "hasNameField" }, { CanRenameRole, "canRename" } };
 }
 
 void RenamerViewModel::setFilenameLanguageOption(const FilenameLanguageOption &option)
@@ -175,7 +208,7 @@ qsizetype RenamerViewModel::admit(std::vector<FolderWalk::File> found)
             item.status = FileItem::AlreadyRenamed {};
         m_rowOfId.insert(item.id, row);
         m_totalBytes += item.byteSize;
-        countStatus(item.status, +1);
+        count(item, +1);
     }
     const auto rowsNow = static_cast<int>(m_files.size());
     if (rowsNow == firstRow)
@@ -197,6 +230,8 @@ void RenamerViewModel::clear()
     m_rowOfId.clear();
     m_pendingCount = 0;
     m_processingCount = 0;
+    m_renamableCount = 0;
+    m_keyMissingCount = 0;
     m_totalBytes = 0;
     endResetModel();
     emit countsChanged();
@@ -317,30 +352,16 @@ void RenamerViewModel::resetSuggestions()
     }
 }
 
-/// Whether a rename action may touch the file: not while it waits or is worked on, not twice, and not without a name.
-static bool isRenamable(const FileItem &item)
-{
-    return !item.suggestedName.isEmpty()
-        && std::visit(Overloaded {
-                          [](FileItem::Pending) { return false; },
-                          [](FileItem::Processing) { return false; },
-                          [](FileItem::Suggested) { return true; },
-                          [](FileItem::Renamed) { return false; },
-                          [](FileItem::AlreadyRenamed) { return true; },
-                          [](FileItem::NoTextFound) { return true; },
-                          [](FileItem::NotSupportedYet) { return false; },
-                          [](const FileItem::Failed &) { return true; },
-                      },
-            item.status);
-}
-
 void RenamerViewModel::setSuggestedName(int row, const QString &name)
 {
     FileItem &item = m_files[static_cast<std::size_t>(row)];
     if (item.suggestedName == name || std::holds_alternative<FileItem::Renamed>(item.status))
         return;
+    count(item, -1);
     item.suggestedName = name;
-    announce(row, { SuggestedNameRole });
+    count(item, +1);
+    announce(row, { SuggestedNameRole, CanRenameRole });
+    emit countsChanged();
 }
 
 std::vector<QUuid> RenamerViewModel::renamableFiles() const
@@ -372,6 +393,9 @@ QCoro::Task<void> RenamerViewModel::renameInTurn(std::vector<QUuid> ids)
     if (!self)
         co_return;
 
+    m_renameDoneCount = 0;
+    m_renameTotalCount = static_cast<int>(ids.size());
+    emit renameProgressChanged();
     emit isRenamingChanged();
     m_isRenameStopped = false;
     m_with.folderAccess.forgetDeclined();
@@ -385,6 +409,8 @@ QCoro::Task<void> RenamerViewModel::renameInTurn(std::vector<QUuid> ids)
                 co_await QCoro::sleepFor(0ms); // back to the event loop
             if (!self)
                 co_return;
+            m_renameDoneCount = static_cast<int>(next);
+            emit renameProgressChanged();
         }
     }
     m_renameTurns.end();
@@ -512,9 +538,9 @@ void RenamerViewModel::takeBack(const std::filesystem::path &renamedPath, const 
     setPath(row, restoredPath);
     setStatus(row, FileItem::Pending {});
     FileItem &item = m_files[static_cast<std::size_t>(row)];
-    item.suggestedName.clear();
     item.previousName.reset();
-    announce(row, { SuggestedNameRole, PreviousNameRole });
+    announce(row, { PreviousNameRole });
+    setSuggestion(row, {}, item.suggestedTags);
 }
 
 void RenamerViewModel::setPath(int row, const std::filesystem::path &path)
@@ -523,7 +549,7 @@ void RenamerViewModel::setPath(int row, const std::filesystem::path &path)
     m_rowsByPath.erase(row);
     item.path = path;
     m_rowsByPath.insert(row);
-    announce(row, { PathRole, FileNameRole, IconNameRole, Qt::DisplayRole });
+    announce(row, { PathRole, FileNameRole, ExtensionRole, FolderNameRole, IconNameRole, Qt::DisplayRole });
 }
 
 std::optional<int> RenamerViewModel::rowOf(const QUuid &id) const
@@ -535,28 +561,35 @@ std::optional<int> RenamerViewModel::rowOf(const QUuid &id) const
 void RenamerViewModel::setStatus(int row, const FileItem::Status &status)
 {
     FileItem &item = m_files[static_cast<std::size_t>(row)];
-    countStatus(item.status, -1);
+    count(item, -1);
     item.status = status;
-    countStatus(item.status, +1);
-    announce(row, { StatusRole, MessageRole });
+    count(item, +1);
+    announce(row, { StatusRole, StatusLabelRole, MessageRole, HasNameFieldRole, CanRenameRole });
     emit countsChanged();
 }
 
 void RenamerViewModel::setSuggestion(int row, const QString &name, const QStringList &tags)
 {
     FileItem &item = m_files[static_cast<std::size_t>(row)];
+    count(item, -1);
     item.suggestedName = name;
-    announce(row, { SuggestedNameRole });
     item.suggestedTags = tags;
-    announce(row, { SuggestedTagsRole });
+    count(item, +1);
+    announce(row, { SuggestedNameRole, SuggestedTagsRole, CanRenameRole });
+    emit countsChanged();
 }
 
-void RenamerViewModel::countStatus(const FileItem::Status &status, int change)
+void RenamerViewModel::count(const FileItem &item, int change)
 {
-    if (std::holds_alternative<FileItem::Pending>(status))
+    if (std::holds_alternative<FileItem::Pending>(item.status))
         m_pendingCount += change;
-    else if (std::holds_alternative<FileItem::Processing>(status))
+    else if (std::holds_alternative<FileItem::Processing>(item.status))
         m_processingCount += change;
+    if (isRenamable(item))
+        m_renamableCount += change;
+    const auto *failed = std::get_if<FileItem::Failed>(&item.status);
+    if (failed && failed->message == description(NameSuggestionError { MissingAPIKey {} }))
+        m_keyMissingCount += change;
 }
 
 void RenamerViewModel::setDropFeedback(std::optional<DropFeedback> feedback)
@@ -568,5 +601,63 @@ void RenamerViewModel::setDropFeedback(std::optional<DropFeedback> feedback)
 }
 
 void RenamerViewModel::announce(int row, const QList<int> &roles) { emit dataChanged(index(row), index(row), roles); }
+
+/// The bytes of a local file's name, which need not be UTF-8: QUrl::toLocalFile() would spoil them.
+static std::optional<std::filesystem::path> localPath(const QUrl &url)
+{
+    if (!url.isLocalFile())
+        return {};
+    const QByteArray path = QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
+    return std::filesystem::path(path.toStdString());
+}
+
+void RenamerViewModel::addUrls(const QList<QUrl> &urls)
+{
+    std::vector<std::filesystem::path> paths;
+    for (const QUrl &url : urls) {
+        if (auto path = localPath(url))
+            paths.push_back(std::move(*path));
+    }
+    addFiles(std::move(paths), true);
+}
+
+void RenamerViewModel::suggest() { suggestAll(); }
+
+void RenamerViewModel::renameRow(int row) { rename(m_files[static_cast<std::size_t>(row)].id); }
+
+void RenamerViewModel::renameEverything() { renameAll(); }
+
+int RenamerViewModel::nextRowWithName(int row, bool backwards) const
+{
+    const int step = backwards ? -1 : 1;
+    for (int next = row + step; next >= 0 && next < rowCount(); next += step) {
+        if (hasNameField(m_files[static_cast<std::size_t>(next)]))
+            return next;
+    }
+    return -1;
+}
+
+int RenamerViewModel::rowBeginningWith(const QString &text, int row) const
+{
+    const int from = std::max(row, 0);
+    for (int passed = 0; passed < rowCount(); ++passed) {
+        const int candidate = (from + passed) % rowCount();
+        const std::filesystem::path name = m_files[static_cast<std::size_t>(candidate)].path.filename();
+        if (shownPath(name).startsWith(text, Qt::CaseInsensitive))
+            return candidate;
+    }
+    return -1;
+}
+
+void RenamerViewModel::setLanguageId(const QString &id)
+{
+    if (const auto option = Varlo::filenameLanguageOption(id))
+        setFilenameLanguageOption(*option);
+}
+
+void RenamerViewModel::setTemplateId(const QString &id)
+{
+    setSelectedTemplateID(id.isEmpty() ? std::nullopt : std::optional(id));
+}
 
 } // namespace Varlo

@@ -19,6 +19,7 @@
 #include <QAbstractListModel>
 #include <QCoroTask>
 #include <QHash>
+#include <QUrl>
 #include <unordered_set>
 #include <vector>
 
@@ -28,23 +29,38 @@ namespace Varlo {
 /// thread. It stores nothing itself; language and template start anew with each object.
 class RenamerViewModel final : public QAbstractListModel {
     Q_OBJECT
+    Q_PROPERTY(int count READ rowCount NOTIFY countsChanged)
     Q_PROPERTY(bool isSuggesting READ isSuggesting NOTIFY isSuggestingChanged)
-    Q_PROPERTY(qsizetype completedCount READ completedCount NOTIFY countsChanged)
-    Q_PROPERTY(qint64 totalBytes READ totalBytes NOTIFY countsChanged)
+    Q_PROPERTY(bool isRenaming READ isRenaming NOTIFY isRenamingChanged)
+    Q_PROPERTY(int completedCount READ completedCount NOTIFY countsChanged)
+    Q_PROPERTY(double totalBytes READ totalBytes NOTIFY countsChanged)
     Q_PROPERTY(bool hasPending READ hasPending NOTIFY countsChanged)
+    Q_PROPERTY(int renamableCount READ renamableCount NOTIFY countsChanged)
+    Q_PROPERTY(int renameDoneCount READ renameDoneCount NOTIFY renameProgressChanged)
+    Q_PROPERTY(int renameTotalCount READ renameTotalCount NOTIFY renameProgressChanged)
+    Q_PROPERTY(bool isKeyMissing READ isKeyMissing NOTIFY countsChanged)
+    Q_PROPERTY(double lastSuggestSeconds READ shownSuggestSeconds NOTIFY lastSuggestSecondsChanged)
+    Q_PROPERTY(bool isNothingRenameable READ isNothingRenameable NOTIFY dropFeedbackChanged)
+    Q_PROPERTY(QString languageId READ languageId WRITE setLanguageId NOTIFY filenameLanguageOptionChanged)
+    Q_PROPERTY(QString templateId READ templateId WRITE setTemplateId NOTIFY selectedTemplateIDChanged)
 public:
     enum class DropFeedback { NothingRenameable };
     enum Role {
         IdRole = Qt::UserRole + 1,
         PathRole, ///< for showing
         FileNameRole,
+        ExtensionRole, ///< with its dot, as it will stand behind the new name; "" for none
+        FolderNameRole, ///< of the folder that the file is in
         StatusRole, ///< the raw value of the status
+        StatusLabelRole, ///< the word for it in the interface's language
         MessageRole, ///< why it failed; "" otherwise
         SuggestedNameRole,
         SuggestedTagsRole,
         PreviousNameRole,
         ByteSizeRole,
         IconNameRole,
+        HasNameFieldRole, ///< its name may be typed in
+        CanRenameRole, ///< a rename action may touch it now
     };
     /// What the batch works with; all of it outlives the batch.
     struct Collaborators {
@@ -75,7 +91,7 @@ public:
     /// How long the latest complete suggestion run took.
     [[nodiscard]] std::optional<double> lastSuggestSeconds() const { return m_lastSuggestSeconds; }
     [[nodiscard]] std::optional<DropFeedback> dropFeedback() const { return m_dropFeedback; }
-    void dismissDropFeedback() { setDropFeedback({}); }
+    Q_INVOKABLE void dismissDropFeedback() { setDropFeedback({}); }
     [[nodiscard]] FilenameLanguageOption filenameLanguageOption() const { return m_filenameLanguageOption; }
     /// A choice that differs from the present one returns every suggested file to pending.
     void setFilenameLanguageOption(const FilenameLanguageOption &option);
@@ -88,6 +104,12 @@ public:
     [[nodiscard]] qsizetype completedCount() const; ///< neither pending nor processing
     [[nodiscard]] qint64 totalBytes() const { return m_totalBytes; }
     [[nodiscard]] bool hasPending() const { return m_pendingCount > 0; }
+    [[nodiscard]] int renamableCount() const { return m_renamableCount; }
+    /// Of the rename action under way, or of the latest: the files it has come to, and all of them.
+    [[nodiscard]] int renameDoneCount() const { return m_renameDoneCount; }
+    [[nodiscard]] int renameTotalCount() const { return m_renameTotalCount; }
+    /// Every file failed since no key is stored.
+    [[nodiscard]] bool isKeyMissing() const { return m_keyMissingCount > 0 && m_keyMissingCount == rowCount(); }
 
     /// Admits files, and the files below folders, that Varlo can name and that are not in the batch yet; passes over
     /// everything else in silence. Rows appear slice by slice while the event loop goes on; calls are served one after
@@ -95,13 +117,13 @@ public:
     /// it.
     QCoro::Task<void> addFiles(std::vector<std::filesystem::path> paths, bool reportEmpty);
     /// Empties the batch. Nothing on disk and nothing in the rename log changes.
-    void clear();
+    Q_INVOKABLE void clear();
     /// Takes every pending file through its reading and a suggestion, five at a time, until none is pending. Does
     /// nothing while a run is under way: that run takes what has become pending meanwhile.
     QCoro::Task<void> suggestAll();
 
     /// What the user typed in the row; a rename uses it as it is. A file that is being or was renamed keeps its name.
-    void setSuggestedName(int row, const QString &name);
+    Q_INVOKABLE void setSuggestedName(int row, const QString &name);
     /// The files that "Rename All" would rename now: suggested, already renamed, without text or failed, and with a
     /// name.
     [[nodiscard]] std::vector<QUuid> renamableFiles() const;
@@ -117,6 +139,26 @@ public:
     void stopRenaming() { m_isRenameStopped = true; }
     [[nodiscard]] bool isRenaming() const { return !m_renameTurns.isIdle(); }
 
+    // What a window asks for; each starts the action of its name, which goes on by itself.
+    /// Files dropped or chosen; an address that is no local file is passed over. Says so when nothing can be named.
+    Q_INVOKABLE void addUrls(const QList<QUrl> &urls);
+    Q_INVOKABLE void suggest();
+    Q_INVOKABLE void renameRow(int row);
+    Q_INVOKABLE void renameEverything();
+    /// The next row, or the one before, whose name may be typed in; -1 where there is none.
+    Q_INVOKABLE [[nodiscard]] int nextRowWithName(int row, bool backwards) const;
+    /// The first row from `row` on, and round again, whose file's name begins so, in any case; -1 where none does.
+    Q_INVOKABLE [[nodiscard]] int rowBeginningWith(const QString &text, int row) const;
+
+    /// -1 before the first run is complete.
+    [[nodiscard]] double shownSuggestSeconds() const { return m_lastSuggestSeconds.value_or(-1); }
+    [[nodiscard]] bool isNothingRenameable() const { return m_dropFeedback == DropFeedback::NothingRenameable; }
+    [[nodiscard]] QString languageId() const { return id(m_filenameLanguageOption); }
+    void setLanguageId(const QString &id);
+    /// "" for none.
+    [[nodiscard]] QString templateId() const { return m_selectedTemplateID.value_or(QString()); }
+    void setTemplateId(const QString &id);
+
 signals:
     void isSuggestingChanged();
     void lastSuggestSecondsChanged();
@@ -129,6 +171,7 @@ signals:
     /// A rename action has come to the file: it is renamed, or has failed.
     void renameFinished(int row);
     void isRenamingChanged();
+    void renameProgressChanged();
 
 private:
     /// The files of one round of a run and what they are asked with.
@@ -181,7 +224,7 @@ private:
     void setPath(int row, const std::filesystem::path &path);
     void setStatus(int row, const FileItem::Status &status);
     void setSuggestion(int row, const QString &name, const QStringList &tags);
-    void countStatus(const FileItem::Status &status, int change);
+    void count(const FileItem &item, int change);
     void setDropFeedback(std::optional<DropFeedback> feedback);
     void announce(int row, const QList<int> &roles);
 
@@ -192,6 +235,10 @@ private:
     std::unordered_set<int, PathHash, PathEqual> m_rowsByPath; // finds a duplicate without a search
     qsizetype m_pendingCount = 0;
     qsizetype m_processingCount = 0;
+    int m_renamableCount = 0;
+    int m_keyMissingCount = 0;
+    int m_renameDoneCount = 0;
+    int m_renameTotalCount = 0;
     qint64 m_totalBytes = 0;
     bool m_isSuggesting = false;
     std::optional<double> m_lastSuggestSeconds;

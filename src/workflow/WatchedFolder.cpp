@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workflow/WatchedFolder.h"
 
+#include "platform/shownPath.h"
 #include "settings/watchFolderPath.h"
 #include "workflow/takeNewFiles.h"
 #include <QPointer>
@@ -45,6 +46,7 @@ void WatchedFolder::apply()
     const std::optional<Settings> wanted = settings();
     if (wanted == std::exchange(m_applied, wanted) && m_watcher.isWatching() == wanted.has_value())
         return;
+    emit folderNameChanged();
     if (!wanted) {
         m_watcher.stop();
         return;
@@ -52,5 +54,7 @@ void WatchedFolder::apply()
     m_folderAccess.beginAccess(wanted->folder);
     static_cast<void>(m_watcher.start(wanted->folder, wanted->includeExisting));
 }
+
+QString WatchedFolder::folderName() const { return m_applied ? shownPath(m_applied->folder.filename()) : QString(); }
 
 } // namespace Varlo

@@ -16,6 +16,7 @@ namespace Varlo {
 /// suggestions. Lives on the main thread.
 class WatchedFolder final : public QObject {
     Q_OBJECT
+    Q_PROPERTY(QString folderName READ folderName NOTIFY folderNameChanged)
 public:
     /// All of them outlive this object. Nothing is watched before the first apply().
     WatchedFolder(Preferences &preferences, FolderAccess &folderAccess, FolderWatcher &watcher, RenamerViewModel &batch,
@@ -25,6 +26,11 @@ public:
     /// by itself when they change, in this process or another. A folder that cannot be watched leaves the watcher
     /// stopped.
     void apply();
+    /// Of the folder that the preferences name, for showing; "" where they want none watched.
+    [[nodiscard]] QString folderName() const;
+
+signals:
+    void folderNameChanged();
 
 private:
     struct Settings {

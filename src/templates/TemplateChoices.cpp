@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "templates/TemplateChoices.h"
+
+#include <QVariantMap>
+
+namespace Varlo {
+
+using namespace Qt::StringLiterals;
+
+TemplateChoices::TemplateChoices(TemplateStore &store, std::function<FilenameLanguage()> language, QObject *parent)
+    : QObject(parent)
+    , m_store(store)
+    , m_language(std::move(language))
+{
+    connect(&store, &TemplateStore::changed, this, &TemplateChoices::changed);
+}
+
+QVariantList TemplateChoices::choices() const
+{
+    QVariantList all;
+    for (const NameTemplate &nameTemplate : m_store.templates()) {
+        all.append(QVariantMap { { u"id"_s, nameTemplate.id }, { u"name"_s, templateTitle(nameTemplate) },
+            { u"isBuiltIn"_s, builtInTemplateName(nameTemplate.id).has_value() },
+            { u"example"_s, nameTemplate.exampleName(m_language()) } });
+    }
+    return all;
+}
+
+void TemplateChoices::remove(const QString &id)
+{
+    // What cannot be stored now is stored with the next change; the list has changed all the same.
+    static_cast<void>(m_store.deleteTemplate(id));
+}
+
+} // namespace Varlo
