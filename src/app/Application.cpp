@@ -1,0 +1,91 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Application.h"
+
+#include "platform/linux/FallbackSecretStore.h"
+#include "platform/linux/FileSecretStore.h"
+#include "platform/linux/SecretServiceStore.h"
+#include "suggestion/makeModelClient.h"
+#include "ui/IconProvider.h"
+#include <cstdio>
+#include <QQuickWindow>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(VarloPlugin)
+
+namespace Varlo {
+
+using namespace Qt::StringLiterals;
+
+static QString environmentValue(const Environment &environment, const char *name)
+{
+    const auto variable = environment.find(name);
+    return variable == environment.end() ? QString() : QString::fromStdString(variable->second);
+}
+
+Application::Application(const Environment &environment)
+    : m_folders(StateFolders::from(environment))
+    , m_preferenceStore(m_folders.config / "preferences.json")
+    , m_preferences(m_preferenceStore)
+    , m_templateStore(m_preferences)
+    , m_folderAccess(m_preferences, m_folderPanel)
+    , m_journal(m_folders.state)
+    , m_renamer(m_journal, m_clock)
+    , m_renameLog(m_preferences, m_renamer, m_folderAccess)
+    , m_suggester(makeSuggester(environment))
+    , m_reader(m_fileFlags, { {}, {}, [](const QString &warning) { qWarning("%s", qUtf8Printable(warning)); } })
+    , m_batch(std::make_unique<RenamerViewModel>(RenamerViewModel::Collaborators { m_reader, *m_suggester,
+          m_templateStore, m_renameLog, m_renamer, m_folderAccess, nullptr, m_preferences, m_locale }))
+    , m_templateChoices(
+          m_templateStore, [this] { return resolvedLanguage(m_batch->filenameLanguageOption(), m_locale); })
+    , m_historyView(m_renameLog, m_clock)
+    , m_watchedFolder(m_preferences, m_folderAccess, m_watcher, *m_batch)
+{
+}
+
+Application::~Application() = default;
+
+std::unique_ptr<NameSuggestionService> Application::makeSuggester(const Environment &environment)
+{
+    m_keyring = std::make_unique<SecretServiceStore>();
+    m_secretFile = std::make_unique<FileSecretStore>(m_folders.data / "secrets" / "keys.json");
+    m_secretStore = std::make_unique<FallbackSecretStore>(*m_keyring, *m_secretFile);
+    QString address = environmentValue(environment, "VARLO_ENDPOINT");
+    if (address.isEmpty())
+        address = m_preferences.string(Preference::endpoint);
+    // An address that cannot be used is shown as such where it is set; until then names come from the hosted one.
+    const Endpoint endpoint = Endpoint::parse(address).or_else([](auto) { return Endpoint::parse({}); }).value();
+    m_keyStore
+        = std::make_unique<APIKeyStore>(*m_secretStore, endpoint, environmentValue(environment, "VARLO_API_KEY"));
+    QString model = environmentValue(environment, "VARLO_MODEL");
+    if (model.isEmpty())
+        model = m_preferences.string(Preference::model);
+    APIKeyStore &keys = *m_keyStore;
+    auto client = makeModelClient(endpoint, model, [&keys] { return keys.loadKey(); });
+    if (!client)
+        qFatal("the part that asks a model (varlo-model-client) is not installed");
+    return client;
+}
+
+QQuickWindow *Application::show()
+{
+    m_engine.addImportPath(u"qrc:/qt/qml"_s); // where later versions of Qt look by themselves
+    m_engine.addImageProvider(u"icons"_s, new IconProvider); // the engine owns it
+    m_engine.setInitialProperties({ { u"batch"_s, QVariant::fromValue(m_batch.get()) },
+        { u"history"_s, QVariant::fromValue(&m_historyView) },
+        { u"templates"_s, QVariant::fromValue(&m_templateChoices) }, { u"watcher"_s, QVariant::fromValue(&m_watcher) },
+        { u"watchedFolder"_s, QVariant::fromValue(&m_watchedFolder) },
+        { u"folderPanel"_s, QVariant::fromValue(&m_folderPanel) }, { u"uiState"_s, QVariant::fromValue(&m_uiState) } });
+    m_engine.load(QUrl(u"qrc:/qt/qml/Varlo/ContentView.qml"_s));
+    if (m_engine.rootObjects().isEmpty())
+        return nullptr;
+    auto *window = qobject_cast<QQuickWindow *>(m_engine.rootObjects().constFirst());
+    // The first file then does not wait for the readers' process.
+    QObject::connect(
+        window, &QQuickWindow::frameSwapped, window, [this] { m_reader.warmUp(); }, Qt::SingleShotConnection);
+    window->show();
+    m_watchedFolder.apply();
+    return window;
+}
+
+} // namespace Varlo

@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/FolderPanel.h"
+#include "extraction/IsolatedContentReader.h"
+#include "history/HistoryView.h"
+#include "platform/linux/JsonPreferenceStore.h"
+#include "platform/linux/LinuxFileFlags.h"
+#include "platform/linux/QtSystemLocale.h"
+#include "platform/linux/StateFolders.h"
+#include "platform/linux/SystemClock.h"
+#include "renaming/FileRenamer.h"
+#include "renaming/RenameJournal.h"
+#include "settings/APIKeyStore.h"
+#include "suggestion/NameSuggestionService.h"
+#include "templates/TemplateChoices.h"
+#include "ui/AppUIState.h"
+#include "workflow/RenamerViewModel.h"
+#include "workflow/WatchedFolder.h"
+#include <memory>
+#include <QQmlApplicationEngine>
+
+class QQuickWindow;
+
+namespace Varlo {
+
+/// The window's objects, made in the order in which they need each other.
+class Application {
+public:
+    explicit Application(const Environment &environment);
+    ~Application();
+
+    /// Shows the main window; null, with a word on standard error, where it cannot be made.
+    [[nodiscard]] QQuickWindow *show();
+    [[nodiscard]] RenamerViewModel &batch() { return *m_batch; }
+
+private:
+    [[nodiscard]] std::unique_ptr<NameSuggestionService> makeSuggester(const Environment &environment);
+
+    StateFolders m_folders;
+    LinuxFileFlags m_fileFlags;
+    QtSystemLocale m_locale;
+    SystemClock m_clock;
+    FolderPanel m_folderPanel;
+    JsonPreferenceStore m_preferenceStore;
+    Preferences m_preferences;
+    TemplateStore m_templateStore;
+    FolderAccess m_folderAccess;
+    RenameJournal m_journal;
+    FileRenamer m_renamer;
+    RenameLog m_renameLog;
+    std::unique_ptr<SecretStore> m_keyring;
+    std::unique_ptr<SecretStore> m_secretFile;
+    std::unique_ptr<SecretStore> m_secretStore;
+    std::unique_ptr<APIKeyStore> m_keyStore;
+    std::unique_ptr<NameSuggestionService> m_suggester;
+    IsolatedContentReader m_reader;
+    std::unique_ptr<RenamerViewModel> m_batch;
+    TemplateChoices m_templateChoices;
+    HistoryView m_historyView;
+    FolderWatcher m_watcher;
+    WatchedFolder m_watchedFolder;
+    AppUIState m_uiState;
+    QQmlApplicationEngine m_engine;
+};
+
+} // namespace Varlo

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick
+import QtQuick.Dialogs
+import Varlo
+
+/// The desktop's choosers of files and of a folder, or Qt's own where it has none.
+Item {
+    id: choosers
+
+    property RenamerViewModel batch: null
+    property var folderPanel: null
+    property var nameFilters: []
+    function chooseFiles() { files.open(); }
+    function chooseFolder() { folder.open(); }
+    /// Where files may be renamed; the panel waits for one of its two answers.
+    function askForFolder(startFolder: url) {
+        access.currentFolder = startFolder;
+        access.open();
+    }
+
+    FileDialog {
+        id: files
+        title: qsTr("Add Files…")
+        fileMode: FileDialog.OpenFiles
+        nameFilters: choosers.nameFilters
+        onAccepted: choosers.batch.addUrls(selectedFiles)
+    }
+    FolderDialog {
+        id: access
+        title: choosers.folderPanel ? choosers.folderPanel.message : ""
+        acceptLabel: choosers.folderPanel ? choosers.folderPanel.confirmation : ""
+        onAccepted: choosers.folderPanel.choose(selectedFolder)
+        onRejected: choosers.folderPanel.decline()
+    }
+    FolderDialog {
+        id: folder
+        title: qsTr("Select Folder…")
+        onAccepted: choosers.batch.addUrls([selectedFolder])
+    }
+}

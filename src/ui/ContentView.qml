@@ -1,0 +1,210 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick
+import QtQuick.Window
+import QtQuick.Layouts
+import Varlo
+
+/// The main window: files come in, names are reviewed, files are renamed.
+Window {
+    id: window
+
+    required property RenamerViewModel batch
+    required property HistoryView history
+    required property TemplateChoices templates
+    property var watcher: null
+    property var watchedFolder: null
+    property var folderPanel: null
+    required property AppUIState uiState
+
+    readonly property bool isNarrow: width < 880 * Theme.textScale
+    readonly property bool isEmpty: batch.count === 0
+    readonly property bool hasSheet: sheets.hasOpenSheet
+    readonly property bool isWatching: watcher !== null && watcher.isWatching
+    readonly property bool hasNotice: batch.isNothingRenameable || batch.isKeyMissing || isWatching
+    property bool isDropTargeted: false
+
+    title: "Varlo"
+    width: 1080
+    height: 720
+    minimumWidth: 640
+    minimumHeight: 480
+    color: Theme.paper
+
+    Binding { target: Theme; property: "textScale"; value: window.uiState.textScale }
+    Binding { target: Theme; property: "isAnimated"; value: window.uiState.isAnimated }
+    Binding { target: Format; property: "locale"; value: window.uiState.localeName }
+
+    component Command: Shortcut {
+        enabled: !window.hasSheet
+        context: Qt.WindowShortcut
+    }
+    Command { sequence: "Ctrl+O"; onActivated: sheets.chooseFiles() }
+    Command { sequence: "Ctrl+Shift+O"; onActivated: sheets.chooseFolder() }
+    Command { sequences: ["Ctrl+Return", "Ctrl+Enter"]; onActivated: window.batch.suggest() }
+    Command { sequences: ["Ctrl+Shift+Return", "Ctrl+Shift+Enter"]; onActivated: window.batch.renameEverything() }
+    Command { sequences: ["Ctrl+H", "Ctrl+Y"]; onActivated: window.uiState.showingHistory = true }
+    Command { sequence: "Ctrl+R"; onActivated: if (content.list) content.list.renameCurrent() }
+    Command {
+        sequence: "Ctrl+Z"
+        onActivated: {
+            const row = content.list ? content.list.currentRow : null;
+            if (row && row.canUndoTyping)
+                row.undoTyping();
+            else
+                window.history.revertLatest();
+        }
+    }
+    Command { sequence: "F6"; onActivated: window.goToRegion(1) }
+    Command { sequence: "Shift+F6"; onActivated: window.goToRegion(-1) }
+
+    function goToRegion(by: int) {
+        const regions = [top, notices, panel, bottom].filter(item => item.visible && item.height > 0);
+        let at = regions.findIndex(region => {
+            for (let item = window.activeFocusItem; item; item = item.parent) {
+                if (item === region)
+                    return true;
+            }
+            return false;
+        });
+        at = (at + by + regions.length) % regions.length;
+        if (regions[at] === panel && content.list)
+            content.list.goTo(Math.max(0, content.list.currentIndex), false);
+        else
+            regions[at].nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    ColumnLayout {
+        anchors.fill: parent
+        spacing: 0
+
+        TopBar {
+            id: top
+            Layout.fillWidth: true
+            Layout.preferredHeight: Theme.text(56)
+            batch: window.batch
+            languageOptions: window.uiState.languageOptions
+            templates: window.templates.choices
+            isNarrow: window.isNarrow
+            onHistoryRequested: window.uiState.showingHistory = true
+            onTemplateDeleteRequested: id => sheets.confirmTemplateDeletion(id)
+        }
+
+        ColumnLayout {
+            id: notices
+            Layout.fillWidth: true
+            Layout.leftMargin: 16
+            Layout.rightMargin: 16
+            spacing: 8
+            visible: window.hasNotice
+
+            Banner {
+                id: banner
+                visible: window.batch.isNothingRenameable
+                Layout.fillWidth: true
+                iconName: "folder-question"
+                title: qsTr("Nothing here Varlo can rename.")
+                below: SupportedFormatsLine {
+                    count: window.uiState.supportedCount
+                    ink: "#5E4A22"
+                    linkInk: Theme.warn
+                    onViewAllRequested: window.uiState.showingFormats = true
+                }
+                buttons: SecondaryButton {
+                    isSmall: true
+                    ground: Theme.warnTint
+                    text: qsTr("Dismiss")
+                    onClicked: window.batch.dismissDropFeedback()
+                }
+            }
+            Banner {
+                id: keyBanner
+                visible: window.batch.isKeyMissing
+                Layout.fillWidth: true
+                iconName: "key"
+                title: qsTr("No API key set.")
+            }
+            WatcherStrip {
+                id: strip
+                visible: window.isWatching
+                Layout.fillWidth: true
+                folderName: window.watchedFolder?.folderName ?? ""
+                isPaused: window.watcher?.isPaused ?? false
+                onToggled: window.watcher.isPaused = !window.watcher.isPaused
+            }
+            Item { Layout.preferredHeight: 0 }
+        }
+
+        Rectangle {
+            id: panel
+            Layout.fillWidth: true
+            Layout.fillHeight: true
+            Layout.leftMargin: 16
+            Layout.rightMargin: 16
+            radius: 14
+            color: window.isDropTargeted && window.isEmpty ? "#EDF5F7" : Theme.surface
+            border { width: 1; color: Theme.line }
+
+            Loader {
+                id: content
+                readonly property var list: item && !window.isEmpty ? item : null
+                anchors { fill: parent; margins: 1 }
+                focus: true
+                sourceComponent: window.isEmpty ? emptyComponent : listComponent
+            }
+            Component {
+                id: emptyComponent
+                DropZone {
+                    focus: true
+                    isTargeted: window.isDropTargeted
+                    supportedCount: window.uiState.supportedCount
+                    onAddFilesRequested: sheets.chooseFiles()
+                    onSelectFolderRequested: sheets.chooseFolder()
+                    onViewAllRequested: window.uiState.showingFormats = true
+                }
+            }
+            Component {
+                id: listComponent
+                FileList {
+                    focus: true
+                    batch: window.batch
+                    statusLabels: window.uiState.statusLabels
+                    isNarrow: window.isNarrow
+                }
+            }
+            Loader {
+                anchors { fill: parent; margins: 1 }
+                active: window.isDropTargeted && !window.isEmpty
+                sourceComponent: DropHighlight { }
+            }
+        }
+
+        BottomBar {
+            id: bottom
+            visible: !window.isEmpty
+            Layout.fillWidth: true
+            batch: window.batch
+            isNarrow: window.isNarrow
+            isTight: window.width < 700 * Theme.textScale
+            onAddFilesRequested: sheets.chooseFiles()
+        }
+        Item { visible: window.isEmpty; Layout.preferredHeight: 16 }
+    }
+
+    DropArea {
+        anchors.fill: parent
+        enabled: !window.hasSheet
+        keys: ["text/uri-list"]
+        onContainsDragChanged: window.isDropTargeted = containsDrag
+        onDropped: drop => {
+            window.isDropTargeted = false;
+            drop.acceptProposedAction();
+            window.batch.addUrls(drop.urls);
+        }
+    }
+
+    Sheets {
+        id: sheets
+        contentView: window
+    }
+}

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick
+import QtQuick.Layouts
+import Varlo
+
+/// Says which folder is watched, and pauses the watching.
+Rectangle {
+    id: strip
+
+    required property string folderName
+    required property bool isPaused
+    signal toggled
+
+    implicitHeight: Theme.text(40)
+    radius: 11
+    color: Theme.fill
+    Accessible.role: Accessible.Grouping
+    Accessible.name: [folderName, qsTr("is being watched"), state.text].join(" ")
+
+    RowLayout {
+        anchors { fill: parent; leftMargin: 13; rightMargin: 5 }
+        spacing: 8
+        Icon { name: "folder" }
+        Label {
+            Layout.maximumWidth: implicitWidth
+            Layout.fillWidth: true
+            text: strip.folderName
+            size: 13
+            font.weight: Font.DemiBold
+            elide: Text.ElideMiddle
+            Accessible.ignored: true
+        }
+        Label {
+            Layout.leftMargin: -3
+            text: qsTr("is being watched")
+            size: 13
+            color: Theme.ink2
+            Accessible.ignored: true
+        }
+        Rectangle {
+            Layout.leftMargin: 8
+            width: 8
+            height: 8
+            radius: 4
+            color: strip.isPaused ? Theme.warnDot : Theme.okDot
+        }
+        Label {
+            id: state
+            Layout.leftMargin: -2
+            text: strip.isPaused ? qsTr("Paused") : qsTr("Active")
+            size: 13
+            font.weight: Font.Medium
+            Accessible.ignored: true
+        }
+        Item { Layout.fillWidth: true }
+        SecondaryButton {
+            isSmall: true
+            isOutlined: false
+            ground: Theme.fill
+            text: strip.isPaused ? qsTr("Resume") : qsTr("Pause")
+            onClicked: strip.toggled()
+        }
+    }
+}

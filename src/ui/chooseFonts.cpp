@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/chooseFonts.h"
+
+#include <QFont>
+#include <QGuiApplication>
+
+namespace Varlo {
+
+using namespace Qt::StringLiterals;
+
+void chooseFonts()
+{
+    QFont::insertSubstitutions(u"Inter"_s, { u"Cantarell"_s, u"Noto Sans"_s });
+    QFont::insertSubstitutions(u"Inter Display"_s, { u"Inter"_s, u"Cantarell"_s, u"Noto Sans"_s });
+    QFont::insertSubstitutions(u"JetBrains Mono"_s, { u"Noto Sans Mono"_s, u"monospace"_s });
+    QFont font = QGuiApplication::font();
+    font.setFamily(u"Inter"_s);
+    QGuiApplication::setFont(font);
+}
+
+} // namespace Varlo

@@ -1,0 +1,10 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace Varlo {
+
+/// Sets the fonts that the window is drawn for, each with what stands in where it is not installed.
+void chooseFonts();
+
+} // namespace Varlo

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick
+import QtQuick.Window
+import Varlo
+
+/// One of the line icons, tinted.
+Image {
+    id: icon
+
+    required property string name
+    property color color: Theme.ink2
+    property int size: 18
+
+    width: size
+    height: size
+    source: name === "" ? "" : "image://icons/" + name + "/" + color.toString().slice(1)
+    sourceSize: Qt.size(size * Screen.devicePixelRatio, size * Screen.devicePixelRatio)
+    Accessible.ignored: true
+}

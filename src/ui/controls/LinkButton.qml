@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick
+import QtQuick.Templates as T
+import Varlo
+
+/// A word that leads somewhere.
+T.Button {
+    id: link
+
+    property color ink: Theme.accent
+    property int textSize: 13
+
+    implicitWidth: label.implicitWidth
+    implicitHeight: Math.max(28, label.implicitHeight)
+    hoverEnabled: true
+    focusPolicy: Qt.StrongFocus
+    Accessible.role: Accessible.Button
+    Accessible.name: text
+    Accessible.onPressAction: clicked()
+    Keys.onReturnPressed: clicked()
+
+    contentItem: Label {
+        id: label
+        size: link.textSize
+        text: link.text
+        color: link.ink
+        font.weight: Font.Medium
+        font.underline: link.hovered
+        Accessible.ignored: true
+    }
+    background: Item {
+        Loader {
+            anchors { fill: parent; margins: -2 }
+            active: link.visualFocus
+            sourceComponent: FocusRing { controlRadius: 6; ground: "transparent" }
+        }
+    }
+}

@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick
+import QtQuick.Templates as T
+import Varlo
+
+/// Shows the choice made and opens a popover with one row per option. `options` is a list of { id, name, detail }.
+T.AbstractButton {
+    id: picker
+
+    property string label ///< the lighter word before the choice
+    property var options: []
+    property string selection
+    property bool bordered: true
+    property string chevron: "selector"
+    property real popoverWidth: 208
+    property Component popoverFooter: null ///< below the rows
+    property string caption ///< above the rows
+    property var editHelpFor: option => ""
+    property string highlightedId ///< of the row under the pointer or the keyboard; "" for none
+    readonly property bool isPresented: loader.active && loader.item.opened
+    signal chosen(string id)
+    signal editRequested(string id)
+    function close() {
+        if (loader.active)
+            loader.item.close();
+    }
+
+    readonly property var chosenOption: options.find(option => option.id === selection)
+
+    implicitWidth: Math.min(260, Math.ceil(choice.implicitWidth + (lead.visible ? lead.width + 6 : 0)) + 22
+        + leftPadding + rightPadding)
+    implicitHeight: Theme.text(34)
+    leftPadding: 12
+    rightPadding: 8
+    hoverEnabled: true
+    focusPolicy: Qt.StrongFocus
+    onClicked: {
+        loader.active = true;
+        loader.item.open();
+    }
+    Keys.onReturnPressed: clicked()
+    Keys.onDownPressed: clicked()
+
+    Component.onCompleted: Accessible.role = Accessible.ComboBox // over the template's own
+    Accessible.description: chosenOption ? chosenOption.name : ""
+    Accessible.onPressAction: clicked()
+
+    contentItem: Item {
+        implicitHeight: row.implicitHeight
+        Row {
+            id: row
+            anchors.verticalCenter: parent.verticalCenter
+            spacing: 6
+            Label {
+                id: lead
+                anchors.verticalCenter: parent.verticalCenter
+                visible: text !== ""
+                text: picker.label
+                size: 13
+                color: Theme.ink2
+                Accessible.ignored: true
+            }
+            Label {
+                id: choice
+                anchors.verticalCenter: parent.verticalCenter
+                width: Math.min(Math.ceil(implicitWidth),
+                    picker.width - picker.leftPadding - picker.rightPadding - chevronIcon.width - 6
+                    - (lead.visible ? lead.width + 6 : 0))
+                text: picker.chosenOption ? picker.chosenOption.name : ""
+                size: 13
+                font.weight: Font.Medium
+                elide: Text.ElideRight
+                Accessible.ignored: true
+            }
+            Icon {
+                id: chevronIcon
+                anchors.verticalCenter: parent.verticalCenter
+                name: picker.chevron
+                size: 15
+                color: Theme.ink3
+            }
+        }
+    }
+    background: Rectangle {
+        radius: 9
+        color: picker.bordered ? Theme.surface : picker.hovered ? Theme.fill : "transparent"
+        border.width: picker.bordered ? 1 : 0
+        border.color: picker.isPresented ? Theme.accent : picker.hovered ? Theme.lineHovered : Theme.lineStrong
+
+        Rectangle {
+            visible: picker.isPresented
+            anchors { fill: parent; margins: -3 }
+            z: -1
+            radius: 12
+            color: Theme.accentTint2
+        }
+        Loader {
+            anchors.fill: parent
+            active: picker.visualFocus && !picker.isPresented
+            sourceComponent: FocusRing { controlRadius: 9; ground: Theme.paper }
+        }
+    }
+
+    Loader {
+        id: loader
+        active: false
+        sourceComponent: Popover {
+            parent: picker
+            implicitWidth: picker.popoverWidth
+            onOpened: rows.focusChosen()
+            onClosed: picker.highlightedId = ""
+            contentItem: Column {
+                id: rows
+                function focusChosen() {
+                    for (let i = 0; i < choices.count; ++i) {
+                        if (choices.itemAt(i).isSelected)
+                            choices.itemAt(i).forceActiveFocus(Qt.PopupFocusReason);
+                    }
+                }
+                Label {
+                    visible: picker.caption !== ""
+                    leftPadding: 10
+                    topPadding: 8
+                    bottomPadding: 6
+                    text: picker.caption
+                    size: 12
+                    font.weight: Font.DemiBold
+                    color: Theme.ink3
+                }
+                Repeater {
+                    id: choices
+                    model: picker.options
+                    PopoverPickerRow {
+                        required property var modelData
+                        readonly property bool isHighlighted: hovered || activeFocus
+                        width: parent.width
+                        isSelected: modelData.id === picker.selection
+                        name: modelData.name
+                        detail: modelData.detail ?? ""
+                        editHelp: picker.editHelpFor(modelData)
+                        onIsHighlightedChanged: if (isHighlighted) picker.highlightedId = modelData.id
+                        onClicked: {
+                            picker.close();
+                            picker.chosen(modelData.id);
+                        }
+                        onEditRequested: {
+                            picker.close();
+                            picker.editRequested(modelData.id);
+                        }
+                    }
+                }
+                Loader {
+                    width: parent.width
+                    active: picker.popoverFooter !== null
+                    sourceComponent: picker.popoverFooter
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: The Varlo developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick
+import QtQuick.Templates as T
+import Varlo
+
+/// A switch; its label stands beside it and is its accessible name.
+T.Switch {
+    id: toggle
+
+    required property string label
+
+    implicitWidth: 40
+    implicitHeight: 28
+    hoverEnabled: true
+    focusPolicy: Qt.StrongFocus
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: label
+    Accessible.checkable: true
+    Accessible.checked: checked
+    Accessible.onPressAction: { toggle(); toggled(); }
+    Accessible.onToggleAction: { toggle(); toggled(); }
+    Keys.onReturnPressed: { toggle(); toggled(); }
+
+    indicator: Rectangle {
+        y: 2
+        width: 40
+        height: 24
+        radius: 12
+        color: toggle.checked ? (toggle.hovered ? Theme.accentHover : Theme.accent) : Theme.control
+        Behavior on color { ColorAnimation { duration: Theme.fast } }
+        Rectangle {
+            x: toggle.checked ? 19 : 3
+            y: 3
+            width: 18
+            height: 18
+            radius: 9
+            color: Theme.surface
+            Behavior on x { NumberAnimation { duration: Theme.fast; easing.type: Easing.OutCubic } }
+        }
+        Loader {
+            anchors.fill: parent
+            active: toggle.visualFocus
+            sourceComponent: FocusRing { controlRadius: 12 }
+        }
+    }
+}
