@@ -140,7 +140,7 @@ void TGADecoder::rewind()
     m_runLeft = 0;
 }
 
-/// What the extension area (section C.8 of the specification) says of the alpha bits; absent where there is none.
+/// What the extension area (Truevision TGA 2.0, section C.8) says of the alpha bits; absent where there is none.
 static std::optional<bool> declaresAlpha(BufferedFile &file)
 {
     static constexpr QByteArrayView signature("TRUEVISION-XFILE.", 18);

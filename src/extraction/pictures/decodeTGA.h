@@ -7,7 +7,7 @@
 
 namespace Varlo {
 
-/// Decodes a Truevision TGA (specification 2.0): colour-mapped, true-colour and grey, plain and run-length encoded, 8
+/// Decodes a Truevision TGA (version 2.0): colour-mapped, true-colour and grey, plain and run-length encoded, 8
 /// to 32 bits a pixel, from any of the four corners. Of a truncated file come the rows that are whole. False where the
 /// bytes cannot be a TGA.
 [[nodiscard]] bool decodeTGA(const FileDescriptor &file, PictureRows &rows);
