@@ -44,12 +44,14 @@ struct RenameCommand {
     bool json = false;
     bool yes = false; ///< nothing is asked; a question for access to a folder is declined
     bool dryRun = false;
+    bool notify = false; ///< the outcome goes to the desktop as well, with a way back
 };
 struct WatchCommand {
     NamingOptions naming;
     std::filesystem::path folder; ///< as given
     bool includeExisting = false; ///< files already there count as new
     bool json = false;
+    bool notify = false; ///< the desktop tells of names that are ready
 };
 struct HistoryCommand {
     QString search; ///< part of an old or new path; "" for all

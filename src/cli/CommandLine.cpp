@@ -23,6 +23,7 @@ struct CommandLine::Values {
     bool json = false;
     bool yes = false;
     bool dryRun = false;
+    bool notify = false;
     std::string folder;
     bool includeExisting = false;
     std::string search;
@@ -188,7 +189,10 @@ void CommandLine::describeNaming()
     addFileArguments(*rename);
     rename->add_flag("--yes", values.yes, "Do not ask; a question for access to a folder is declined");
     rename->add_flag("-n,--dry-run", values.dryRun, "Show the plan and change nothing");
+    rename->add_flag(
+        "--notify", values.notify, "Tell the outcome in a notification that can undo it; file managers use this");
     rename->footer("With --json each object is as for suggest; a renamed file has newPath as well.\n"
+                   "With --notify the call ends when the notification is closed, or after ten minutes.\n"
                    "\n"
                    "Examples:\n"
                    "  # What would happen\n"
@@ -198,17 +202,21 @@ void CommandLine::describeNaming()
                    "  varlo undo --last 12");
     rename->callback([this, &values, rename] {
         const RenameCommand command { namingOptions(*rename), fileArguments(*rename), values.json, values.yes,
-            values.dryRun };
+            values.dryRun, values.notify };
         values.command = [command] { return command; };
     });
 
     CLI::App *watch = addCommand(*m_app, "watch", "Suggest names for new files of a folder as they arrive");
     addNamingOptions(*watch);
     watch->add_flag("--include-existing", values.includeExisting, "Begin with the files that are there already");
+    watch->add_flag("--notify", values.notify, "Tell of names that are ready in notifications that open the window");
     watch->add_option("FOLDER", values.folder, "Which folder; what lies in folders below it is left alone")->required();
     watch->footer(
         "Nothing is renamed. A file is taken once the folder has been quiet for 0.8 seconds. Ctrl-C ends the watch.\n"
         "What other machines put on a network drive is not noticed. JSON objects are as for suggest.\n"
+        "\n"
+        "A service of the user's own watches a folder at every login:\n"
+        "`systemctl --user enable --now \"varlo-watch@$(systemd-escape --path ~/Scans).service\"`.\n"
         "\n"
         "Examples:\n"
         "  # Names for whatever the scanner leaves\n"
@@ -216,7 +224,8 @@ void CommandLine::describeNaming()
         "  # As one JSON object a line, for a script, and without the network\n"
         "  varlo watch --offline --include-existing --json ~/Downloads");
     watch->callback([this, &values, watch] {
-        const WatchCommand command { namingOptions(*watch), values.folder, values.includeExisting, values.json };
+        const WatchCommand command { namingOptions(*watch), values.folder, values.includeExisting, values.json,
+            values.notify };
         values.command = [command] { return command; };
     });
 }

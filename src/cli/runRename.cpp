@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/announceRenames.h"
 #include "cli/commands.h"
 #include "cli/FileArgumentList.h"
 #include "cli/Progress.h"
@@ -11,6 +12,7 @@
 #include <csignal>
 #include <QCoreApplication>
 #include <QCoroTask>
+#include <ranges>
 
 namespace Varlo {
 
@@ -92,9 +94,33 @@ static bool isConfirmed(const RenameCommand &command, qsizetype count, Session &
     return terminal.confirm(QCoreApplication::translate("Terminal", "Rename as shown?"));
 }
 
-/// Carries the plan out; returns how many files were renamed.
-static qsizetype renameFiles(RenamerViewModel &batch, qsizetype count, const RenameCommand &command, Terminal &terminal)
+static void addFailure(RenameSummary &summary, const QString &reason)
 {
+    if (summary.failedCount++ == 0)
+        summary.failure = terminalMessage(reason);
+}
+
+/// The newest entry of the history that led to the file as it is now; "" where the history could not take it in.
+static QString entryIdOf(const std::filesystem::path &path, const RenameLog &log)
+{
+    const auto entries = log.entries() | std::views::reverse;
+    const auto entry = std::ranges::find(entries, path, &RenameLog::Entry::toPath);
+    return entry == entries.end() ? QString() : entry->id();
+}
+
+static void addRename(RenameSummary &summary, const FileItem &item, const RenameLog &log)
+{
+    summary.newNames.append(terminalText(item.path.filename()));
+    if (const QString id = entryIdOf(item.path, log); !id.isEmpty())
+        summary.entryIds.push_back(id);
+}
+
+/// Carries the plan out; returns how many files were renamed.
+static qsizetype renameFiles(
+    RenamerViewModel &batch, qsizetype count, const RenameCommand &command, Session &session, RenameSummary &summary)
+{
+    Terminal &terminal = session.terminal();
+    const RenameLog &log = session.renameLog();
     qsizetype renamedCount = 0;
     std::map<QUuid, std::filesystem::path> oldPaths;
     for (const FileItem &item : batch.files())
@@ -104,6 +130,10 @@ static qsizetype renameFiles(RenamerViewModel &batch, qsizetype count, const Ren
         const FileItem &item = batch.files()[static_cast<std::size_t>(row)];
         const auto *failed = std::get_if<FileItem::Failed>(&item.status);
         renamedCount += failed ? 0 : 1;
+        if (failed)
+            addFailure(summary, failed->message);
+        else
+            addRename(summary, item, log);
         if (command.json)
             terminal.printJson(renamedToJson(item, oldPaths.at(item.id)));
         if (failed)
@@ -118,24 +148,26 @@ static qsizetype renameFiles(RenamerViewModel &batch, qsizetype count, const Ren
     return renamedCount;
 }
 
-ExitCode run(const RenameCommand &command, Session &session)
+static ExitCode suggestAndRename(const RenameCommand &command, Session &session, RenameSummary &summary)
 {
     Terminal &terminal = session.terminal();
-    if (!command.yes && !command.dryRun && !terminal.canAsk()) {
-        terminal.complain(QCoreApplication::translate(
-            "Terminal", "there is no terminal to ask on; give --yes to rename without asking"));
-        return ExitCode::WrongUsage;
-    }
     session.folderPanel().setMayAsk(!command.yes);
     const auto whenSuggested = [&](const FileItem &item) {
+        const auto *failed = std::get_if<FileItem::Failed>(&item.status);
+        if (item.suggestedName.isEmpty())
+            addFailure(summary, failed ? failed->message : label(item.status));
         // A renamed file's line comes with its rename.
         if (command.json && (command.dryRun || item.suggestedName.isEmpty()))
             terminal.printJson(toJson(item));
     };
     const std::optional<NamedBatch> named = suggestNames(command.naming, command.arguments, session, whenSuggested);
-    if (!named)
+    if (!named) {
+        summary.failure = QCoreApplication::translate("Terminal", "The settings do not fit; see `varlo doctor`.");
         return ExitCode::WrongUsage;
+    }
     RenamerViewModel &batch = *named->batch;
+    if (batch.files().empty() && !named->hasRefusedArguments)
+        summary.failure = QCoreApplication::translate("Terminal", "Nothing here Varlo can rename.");
     const bool someFailed = named->hasRefusedArguments || std::ranges::any_of(batch.files(), hasFailed);
     const ExitCode codeSoFar = someFailed ? ExitCode::SomeFailed : ExitCode::Success;
 
@@ -149,7 +181,7 @@ ExitCode run(const RenameCommand &command, Session &session)
     if (items.empty() || command.dryRun || !isConfirmed(command, count, session))
         return codeSoFar;
 
-    const qsizetype renamedCount = renameFiles(batch, count, command, terminal);
+    const qsizetype renamedCount = renameFiles(batch, count, command, session, summary);
     session.tellNotices();
     if (renamedCount > 0) {
         terminal.inform(
@@ -159,6 +191,23 @@ ExitCode run(const RenameCommand &command, Session &session)
     if (isInterrupted)
         return ExitCode::Interrupted;
     return renamedCount < count ? ExitCode::SomeFailed : codeSoFar;
+}
+
+ExitCode run(const RenameCommand &command, Session &session)
+{
+    Terminal &terminal = session.terminal();
+    if (!command.yes && !command.dryRun && !terminal.canAsk()) {
+        terminal.complain(QCoreApplication::translate(
+            "Terminal", "there is no terminal to ask on; give --yes to rename without asking"));
+        return ExitCode::WrongUsage;
+    }
+    RenameSummary summary;
+    const ExitCode code = suggestAndRename(command, session, summary);
+    if (!command.notify || command.dryRun)
+        return code;
+    exitOn(SIGINT); // nothing is half done any more
+    announceRenames(summary, session);
+    return code;
 }
 
 } // namespace Varlo

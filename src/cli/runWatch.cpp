@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/commands.h"
 #include "cli/FileArgumentList.h"
+#include "cli/ReadyNotice.h"
 #include "cli/suggestionCell.h"
 #include "cli/suggestNames.h"
 #include "cli/terminalText.h"
+#include "notify/makeNotifier.h"
 #include "watch/FolderWatcher.h"
 #include "workflow/takeNewFiles.h"
 #include <csignal>
@@ -29,6 +31,7 @@ private:
     QCoro::Task<void> take(std::vector<std::filesystem::path> files);
     void printAdmitted(int first, int last);
     void print(const FileItem &item);
+    void notify();
     void complainOfStart(const SystemError &error);
     /// Ends the event loop as soon as the files in hand are through.
     void end();
@@ -38,6 +41,7 @@ private:
     RenamerViewModel &m_batch;
     Terminal &m_terminal;
     FolderWatcher m_watcher;
+    std::optional<ReadyNotice> m_notice;
     QEventLoop m_loop;
     int m_tasks = 0;
     bool m_isEnding = false;
@@ -63,6 +67,25 @@ Watch::Watch(const WatchCommand &command, RenamerViewModel &batch, Terminal &ter
         [this](const QModelIndex &, int first, int last) { printAdmitted(first, last); });
     connect(&m_batch, &RenamerViewModel::suggestionFinished, this,
         [this](int row) { print(m_batch.files()[static_cast<std::size_t>(row)]); });
+    if (m_command.notify)
+        notify();
+}
+
+/// Once a run, since a pile of scans comes as one.
+void Watch::notify()
+{
+    std::unique_ptr<Notifier> notifier = makeNotifier();
+    if (!notifier) {
+        m_terminal.complain(QCoreApplication::translate("Terminal", "this session has no notifications to show"));
+        return;
+    }
+    m_notice.emplace(std::move(notifier));
+    connect(&m_batch, &RenamerViewModel::suggestionFinished, this,
+        [this](int row) { m_notice->add(m_batch.files()[static_cast<std::size_t>(row)]); });
+    connect(&m_batch, &RenamerViewModel::isSuggestingChanged, this, [this] {
+        if (!m_batch.isSuggesting())
+            m_notice->show();
+    });
 }
 
 ExitCode Watch::run()
