@@ -43,6 +43,11 @@ QString description(const RenameFailure &failure)
                               return translate(QT_TRANSLATE_NOOP(
                                   "RenameFailure", "The file is not the one that was added any more."));
                           },
+                          [](SharedAlone) {
+                              //: Error inside a sandbox, where a file was chosen but not the folder that it is in
+                              return translate(QT_TRANSLATE_NOOP("RenameFailure",
+                                  "Varlo was given this file without its folder. Add the folder instead."));
+                          },
                           [](const HistoryNotWritable &refusal) { return description(refusal); },
                           [](const SystemError &error) { return error.description(); },
                       },

@@ -16,6 +16,10 @@ enum class RenameError {
 struct FileChanged {
     bool operator==(const FileChanged &) const = default;
 };
+/// A sandbox shows the file without its folder, and only there could it get another name.
+struct SharedAlone {
+    bool operator==(const SharedAlone &) const = default;
+};
 /// Nothing was moved, since the move could not be noted down first.
 struct HistoryNotWritable {
     SystemError cause; ///< EAGAIN: another process was renaming all the while
@@ -23,7 +27,7 @@ struct HistoryNotWritable {
     bool operator==(const HistoryNotWritable &) const = default;
 };
 /// Why a file still has its old name. A SystemError is the move's own.
-using RenameFailure = std::variant<RenameError, FileChanged, HistoryNotWritable, SystemError>;
+using RenameFailure = std::variant<RenameError, FileChanged, SharedAlone, HistoryNotWritable, SystemError>;
 
 /// The words shown to the user.
 [[nodiscard]] QString description(const RenameFailure &failure);

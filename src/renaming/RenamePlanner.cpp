@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "renaming/RenamePlanner.h"
 
+#include "renaming/isSharedAlone.h"
 #include <algorithm>
 #include <cerrno>
 
@@ -50,6 +51,8 @@ RenamePlanner::Plan RenamePlanner::plan(const RenameJob &job)
         return RenameFailure(job.target.error());
     if (job.target->isCurrentName)
         return NothingToMove {};
+    if (isSharedAlone(*job.filePath))
+        return RenameFailure(SharedAlone {});
     Folder &folder = openedFolder(job);
     if (!folder.opened)
         return RenameFailure(folder.opened.error());
