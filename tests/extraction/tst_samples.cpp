@@ -19,7 +19,8 @@
 using namespace Qt::StringLiterals;
 using namespace Varlo;
 
-/// Reads the whole folder of samples in one run of the command, as a user would; a row for each file.
+/// Reads the whole folder of samples in one run of the command, as a user would, and each picture alone; a row for each
+/// file.
 class SamplesTest : public QObject {
     Q_OBJECT
 private slots:
@@ -27,8 +28,12 @@ private slots:
     void coverEveryExtension();
     void areReadAsExpected_data();
     void areReadAsExpected();
+    void readAloneAsTogether_data();
+    void readAloneAsTogether();
 
 private:
+    static QList<QJsonObject> extract(const QStringList &arguments);
+
     QHash<QString, QJsonObject> m_read; // by the file's name
     QTemporaryDir m_pictures;
 };
@@ -127,19 +132,27 @@ static QString faultOfPicture(const QString &path, const QJsonObject &read, cons
     return faultOfColours(picture, expected);
 }
 
+/// What the command tells of each file.
+QList<QJsonObject> SamplesTest::extract(const QStringList &arguments)
+{
+    QProcess varlo;
+    varlo.start(u"" VARLO_BINARY_DIR "/src/cli/varlo"_s, QStringList { u"extract"_s, u"--json"_s } + arguments);
+    varlo.waitForFinished(-1); // CTest limits it
+    QList<QJsonObject> objects;
+    for (const QByteArray &line : varlo.readAllStandardOutput().split('\n')) {
+        if (!line.isEmpty())
+            objects.append(QJsonDocument::fromJson(line).object());
+    }
+    return objects;
+}
+
 void SamplesTest::initTestCase()
 {
-    QStringList arguments { u"extract"_s, u"--json"_s, u"--image-dir"_s, m_pictures.path(), u"--"_s };
+    QStringList arguments { u"--image-dir"_s, m_pictures.path(), u"--"_s };
     for (const QString &name : inbox.entryList(QDir::Files))
         arguments << inbox.filePath(name);
-    QProcess varlo;
-    varlo.start(u"" VARLO_BINARY_DIR "/src/cli/varlo"_s, arguments);
-    QVERIFY(varlo.waitForFinished(-1)); // CTest limits it
-    QVERIFY2(varlo.exitCode() == 1, varlo.readAllStandardError().constData()); // there are kinds that no reader takes
-    for (const QByteArray &line : varlo.readAllStandardOutput().split('\n')) {
-        const QJsonObject object = QJsonDocument::fromJson(line).object();
+    for (const QJsonObject &object : extract(arguments))
         m_read.insert(QFileInfo(object[u"path"_s].toString()).fileName(), object);
-    }
 }
 
 void SamplesTest::coverEveryExtension()
@@ -180,6 +193,25 @@ void SamplesTest::areReadAsExpected()
         fault = faultOfPicture(QDir(m_pictures.path()).filePath(read[u"imageFile"_s].toString()), read, expected);
     }
     QVERIFY2(fault.isEmpty(), qPrintable(fault));
+}
+
+// What one kind of picture has loaded and been allowed is not there for another that comes alone.
+void SamplesTest::readAloneAsTogether_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const QString &name : inbox.entryList(QDir::Files)) {
+        if (expectationFor(name)[u"kind"_s] == u"image"_s)
+            QTest::newRow(qPrintable(name)) << name;
+    }
+}
+
+void SamplesTest::readAloneAsTogether()
+{
+    QFETCH(QString, name);
+    const QList<QJsonObject> read = extract({ u"--"_s, inbox.filePath(name) });
+    QCOMPARE(read.size(), 1);
+    for (const QString &key : { u"result"_s, u"kind"_s, u"byteCount"_s, u"width"_s, u"height"_s })
+        QCOMPARE(read.first()[key], m_read[name][key]);
 }
 
 QTEST_GUILESS_MAIN(SamplesTest)

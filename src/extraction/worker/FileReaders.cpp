@@ -131,8 +131,8 @@ void FileReaders::prepare(const WorkerJob &job)
 
 bool FileReaders::needsThreads(const WorkerJob &job) const
 {
-    // The libraries behind it decode AVIF with threads or not at all.
-    return contains(imageExtensions, job.extension) && m_furtherDecoder.decoder;
+    // Qt converts large pictures, and the further decoder's libraries read AVIF, with threads or not at all.
+    return contains(imageExtensions, job.extension);
 }
 
 WorkerAnswer FileReaders::perform(
