@@ -42,7 +42,9 @@ class Starter:
     def __init__(self, program):
         ours, theirs = socket.socketpair(socket.AF_UNIX, socket.SOCK_SEQPACKET)
         environment = {"MALLOC_ARENA_MAX": "1", "OMP_THREAD_LIMIT": "1", "QT_NO_GLIB": "1", "VIPS_NOVECTOR": "1",
-                       "VIPS_BLOCK_UNTRUSTED": "1", "LC_ALL": "C.UTF-8"}
+                       "VIPS_BLOCK_UNTRUSTED": "1", "LC_ALL": "C.UTF-8", "LD_BIND_NOW": "1",
+                       "GLIBC_TUNABLES": "glibc.malloc.hugetlb=1:glibc.malloc.mmap_threshold=1073741824"
+                                         ":glibc.malloc.trim_threshold=1073741824"}
         self.control = ours
         self.process = subprocess.Popen(
             ["sh", "-c", f'exec "$0" 3<&{theirs.fileno()}', program], pass_fds=[theirs.fileno()], env=environment,

@@ -29,6 +29,20 @@ using Image = Object<VipsImage>;
 enum class Format { WebP, TIFF, HEIF };
 } // namespace
 
+/// The library describes each of its operations to its type system at the first use, which every worker would do again.
+static void meetOperations()
+{
+    static constexpr std::string_view noPicture = "no picture";
+    const Object<VipsSource> source(vips_source_new_from_memory(noPicture.data(), noPicture.size()));
+    vips_foreign_find_load_source(source.get());
+    for (const char *const name : { "webpload_source", "tiffload_source", "heifload_source", "colourspace", "cast",
+             "flatten", "extract_band", "icc_transform", "copy", "sRGB2scRGB", "scRGB2sRGB", "autorot", "linear" }) {
+        if (VipsOperation *const operation = vips_operation_new(name))
+            g_object_unref(operation);
+    }
+    vips_error_clear();
+}
+
 static bool prepareVips()
 {
     g_log_set_writer_func(
@@ -41,6 +55,7 @@ static bool prepareVips()
     vips_cache_set_max(0);
     // glibc would keep the frames of a decoder that are freed for the next of their size, which never comes.
     ::mallopt(M_MMAP_THRESHOLD, 256 * 1024);
+    meetOperations();
     return true;
 }
 

@@ -89,18 +89,20 @@ static QCoro::Task<void> collect(ContentReader &reader, std::filesystem::path pa
     outcomes.append(describe(outcome));
 }
 
-/// The starter and the workers; not those that ended and are not reaped yet.
+static QByteArray readProcessFile(const QString &pid, QLatin1StringView name)
+{
+    QFile file(u"/proc/%1/%2"_s.arg(pid, name));
+    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The starter and the workers, of no other build's test; not those that ended and are not reaped yet.
 static QList<pid_t> extractorProcesses()
 {
-    const QString program = QFileInfo(QStringLiteral(MISBEHAVING_EXTRACTOR)).fileName().left(15); // the kernel's length
     QList<pid_t> found;
     for (const QString &entry : QDir(u"/proc"_s).entryList(QDir::Dirs)) {
-        QFile file(u"/proc/%1/stat"_s.arg(entry));
-        if (!file.open(QFile::ReadOnly))
-            continue;
-        const QByteArray stat = file.readAll(); // pid (name) state parent
+        const QByteArray stat = readProcessFile(entry, "stat"_L1); // pid (name) state parent
         const bool isEnded = stat.contains(") Z ") || stat.contains(") X ");
-        if (stat.contains('(' + program.toUtf8() + ')') && !isEnded)
+        if (!isEnded && readProcessFile(entry, "cmdline"_L1).startsWith(MISBEHAVING_EXTRACTOR))
             found.append(entry.toInt());
     }
     return found;
@@ -180,7 +182,8 @@ void IsolatedContentReaderTest::leaksNothing()
     const FileDescriptor inheritable(::open("/dev/null", O_RDONLY)); // NOLINT: on purpose without O_CLOEXEC
     IsolatedContentReader reader(m_flags, options());
     QCOMPARE(read(reader, u"list the environment"_s),
-        u"text: LC_ALL MALLOC_ARENA_MAX OMP_THREAD_LIMIT QT_NO_GLIB TZ VIPS_BLOCK_UNTRUSTED VIPS_NOVECTOR"_s);
+        u"text: GLIBC_TUNABLES LC_ALL LD_BIND_NOW MALLOC_ARENA_MAX OMP_THREAD_LIMIT QT_NO_GLIB TZ "
+        u"VIPS_BLOCK_UNTRUSTED VIPS_NOVECTOR"_s);
     QCOMPARE(read(reader, u"list descriptors"_s), u"text: open descriptors: file file file socket file"_s);
     for (int file = 0; file < 2; ++file)
         QCOMPARE(read(reader, u"count files"_s), u"text: 0 files were seen before this one"_s);
