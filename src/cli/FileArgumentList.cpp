@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/FileArgumentList.h"
 
-#include "cli/terminalText.h"
 #include "extraction/supportedExtensions.h"
 #include "platform/pathExtension.h"
 #include "platform/shownPath.h"
 #include "platform/SystemError.h"
+#include "platform/visibleText.h"
 #include <algorithm>
 #include <fstream>
 #include <iostream>
@@ -96,7 +96,7 @@ QString pathFromHere(const std::filesystem::path &path)
     const std::filesystem::path here = std::filesystem::current_path(error);
     const std::filesystem::path relative = path.lexically_relative(here);
     const bool isBelow = !error && !relative.empty() && *relative.begin() != "..";
-    return terminalText(isBelow ? relative : path);
+    return visibleText(isBelow ? relative : path);
 }
 
 } // namespace Varlo

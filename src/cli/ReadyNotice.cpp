@@ -3,7 +3,7 @@
 #include "cli/ReadyNotice.h"
 
 #include "cli/suggestNames.h"
-#include "cli/terminalText.h"
+#include "platform/visibleText.h"
 #include <QCoreApplication>
 
 namespace Varlo {
@@ -21,9 +21,9 @@ void ReadyNotice::add(const FileItem &item)
 {
     if (std::holds_alternative<FileItem::Suggested>(item.status)) {
         m_files.push_back(item.path);
-        m_newestNames.append(terminalText(suggestedFileName(item)));
+        m_newestNames.append(visibleText(suggestedFileName(item)));
     } else if (const auto *failed = std::get_if<FileItem::Failed>(&item.status)) {
-        m_failure = m_failedCount++ == 0 ? terminalMessage(failed->message) : m_failure;
+        m_failure = m_failedCount++ == 0 ? visibleMessage(failed->message) : m_failure;
     } else {
         return;
     }

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Session.h"
 
-#include "cli/terminalText.h"
 #include "platform/linux/FallbackSecretStore.h"
 #include "platform/linux/FileSecretStore.h"
 #include "platform/linux/SecretServiceStore.h"
+#include "platform/visibleText.h"
 #include "suggestion/BuiltInNamer.h"
 #include "suggestion/makeModelClient.h"
 #include <QCoreApplication>
@@ -47,7 +47,7 @@ void Session::tellNotices()
     if (m_renameLog)
         notices += m_renameLog->takeNotices();
     for (const QString &notice : std::as_const(notices))
-        m_terminal.complain(terminalText(notice));
+        m_terminal.complain(visibleText(notice));
 }
 
 TemplateStore &Session::templateStore()
@@ -62,7 +62,7 @@ std::optional<NameTemplate> Session::nameTemplate(const QString &id)
     std::optional<NameTemplate> found = templateStore().nameTemplate(id);
     if (!found) {
         m_terminal.complain(
-            QCoreApplication::translate("Terminal", "there is no template with the id “%1”").arg(terminalText(id)));
+            QCoreApplication::translate("Terminal", "there is no template with the id “%1”").arg(visibleText(id)));
     }
     return found;
 }
@@ -90,7 +90,7 @@ IsolatedContentReader &Session::reader()
     if (!m_reader)
         m_reader = std::make_unique<IsolatedContentReader>(m_fileFlags,
             IsolatedContentReader::Options {
-                {}, {}, [this](const QString &warning) { m_terminal.complain(terminalText(warning)); } });
+                {}, {}, [this](const QString &warning) { m_terminal.complain(visibleText(warning)); } });
     return *m_reader;
 }
 
@@ -111,7 +111,7 @@ std::optional<Endpoint> Session::endpoint(const std::optional<QString> &option)
         address = preferences().string(Preference::endpoint);
     const Result<Endpoint, Endpoint::Error> endpoint = Endpoint::parse(address);
     if (!endpoint) {
-        m_terminal.complain(terminalText(address) + u": "_s + description(endpoint.error()));
+        m_terminal.complain(visibleText(address) + u": "_s + description(endpoint.error()));
         return {};
     }
     return *endpoint;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Terminal.h"
 
-#include "cli/terminalText.h"
+#include "cli/elidedInMiddle.h"
 #include "platform/Characters.h"
 #include <algorithm>
 #include <iostream>

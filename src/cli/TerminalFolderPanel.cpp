@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/TerminalFolderPanel.h"
 
-#include "cli/terminalText.h"
+#include "platform/visibleText.h"
 #include "renaming/FolderAccess.h"
 
 namespace Varlo {
@@ -14,7 +14,7 @@ QCoro::Task<std::optional<std::filesystem::path>> TerminalFolderPanel::ask(std::
     if (!m_mayAsk || !m_terminal.canAsk())
         co_return std::nullopt;
     const QString question
-        = u"%1\n%2\n%3?"_s.arg(FolderAccess::panelMessage(), terminalText(folder), FolderAccess::panelConfirmation());
+        = u"%1\n%2\n%3?"_s.arg(FolderAccess::panelMessage(), visibleText(folder), FolderAccess::panelConfirmation());
     if (m_terminal.confirm(question))
         co_return folder;
     co_return std::nullopt;

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/announceRenames.h"
 
-#include "cli/terminalText.h"
 #include "notify/makeNotifier.h"
+#include "platform/visibleText.h"
 #include <chrono>
 #include <QCoreApplication>
 #include <QCoroTask>
@@ -57,7 +57,7 @@ static Notification takeBack(const std::vector<QString> &entryIds, Session &sess
     for (const QString &id : entryIds | std::views::reverse) {
         const RenameLog::RevertOutcome outcome = QCoro::waitFor(session.renameLog().revert(id));
         if (!outcome)
-            complaints.append(terminalMessage(outcome.error()));
+            complaints.append(visibleMessage(outcome.error()));
         else if (*outcome)
             ++count;
     }

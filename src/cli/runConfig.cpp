@@ -3,8 +3,8 @@
 #include "cli/closestWord.h"
 #include "cli/commands.h"
 #include "cli/FileArgumentList.h"
-#include "cli/terminalText.h"
 #include "platform/shownPath.h"
+#include "platform/visibleText.h"
 #include "settings/watchFolderPath.h"
 #include <array>
 #include <QCoreApplication>
@@ -31,7 +31,7 @@ static const PreferenceKey *findKey(const QString &name, Terminal &terminal)
             return key;
         names.push_back(key->name.toStdString());
     }
-    QString message = QCoreApplication::translate("Terminal", "there is no preference “%1”").arg(terminalText(name));
+    QString message = QCoreApplication::translate("Terminal", "there is no preference “%1”").arg(visibleText(name));
     if (const auto closest = closestWord(name.toStdString(), names)) {
         message
             += QCoreApplication::translate("Terminal", "; did you mean “%1”?").arg(QString::fromStdString(*closest));
@@ -84,7 +84,7 @@ static Result<PreferenceValue, QString> parseValue(const PreferenceKey &key, con
 ExitCode run(const ConfigListCommand &, Session &session)
 {
     for (const PreferenceKey *key : offeredKeys())
-        session.terminal().print(key->name + u" = "_s + terminalText(shownValue(*key, session)));
+        session.terminal().print(key->name + u" = "_s + visibleText(shownValue(*key, session)));
     return ExitCode::Success;
 }
 
@@ -93,7 +93,7 @@ ExitCode run(const ConfigGetCommand &command, Session &session)
     const PreferenceKey *key = findKey(command.key, session.terminal());
     if (!key)
         return ExitCode::WrongUsage;
-    session.terminal().print(terminalText(shownValue(*key, session)));
+    session.terminal().print(visibleText(shownValue(*key, session)));
     return ExitCode::Success;
 }
 

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/commands.h"
-#include "cli/terminalText.h"
 #include "platform/shownPath.h"
+#include "platform/visibleText.h"
 #include <QCoreApplication>
 #include <QCoroTask>
 #include <QJsonArray>
@@ -33,11 +33,11 @@ static Finding lookAtFolder(const QString &subject, const std::filesystem::path 
     std::error_code error;
     while (!std::filesystem::exists(existing, error) && existing.has_relative_path())
         existing = existing.parent_path();
-    const QString shown = terminalText(folder);
+    const QString shown = visibleText(folder);
     if (std::filesystem::is_directory(existing, error) && ::access(existing.c_str(), W_OK | X_OK) == 0)
         return { subject, true, shown, {} };
     return { subject, false, translate(QT_TRANSLATE_NOOP("Doctor", "%1 cannot be written")).arg(shown),
-        translate(QT_TRANSLATE_NOOP("Doctor", "make %1 a folder of yours")).arg(terminalText(existing)) };
+        translate(QT_TRANSLATE_NOOP("Doctor", "make %1 a folder of yours")).arg(visibleText(existing)) };
 }
 
 static Finding lookAtKey(Session &session, const Endpoint &endpoint)
@@ -87,7 +87,7 @@ static QStringList texts(const QJsonValue &array)
 {
     QStringList list;
     for (const QJsonValue &value : array.toArray())
-        list.append(terminalText(value.toString()));
+        list.append(visibleText(value.toString()));
     return list;
 }
 
@@ -140,7 +140,7 @@ static QList<Finding> examine(const DoctorCommand &command, Session &session)
     };
     if (const std::optional<Endpoint> endpoint = session.endpoint(command.endpoint)) {
         findings.append({ translate(QT_TRANSLATE_NOOP("Doctor", "Endpoint")), true,
-            terminalText(endpoint->messagesUrl().toString()), {} });
+            visibleText(endpoint->messagesUrl().toString()), {} });
         findings.append(lookAtKey(session, *endpoint)); // the store has said then which one it is
     } else {
         findings.append({ translate(QT_TRANSLATE_NOOP("Doctor", "Endpoint")), false,
@@ -148,7 +148,7 @@ static QList<Finding> examine(const DoctorCommand &command, Session &session)
             translate(QT_TRANSLATE_NOOP("Doctor", "give another one with `varlo config set endpoint URL`")) });
     }
     findings.append({ translate(QT_TRANSLATE_NOOP("Doctor", "Secret store")), true,
-        terminalText(session.secretStore().description()), {} });
+        visibleText(session.secretStore().description()), {} });
     return findings + lookAtReaders(session);
 }
 

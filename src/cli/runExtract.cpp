@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/commands.h"
 #include "cli/FileArgumentList.h"
-#include "cli/terminalText.h"
 #include "extraction/jpegSize.h"
 #include "platform/linux/replaceFile.h"
+#include "platform/visibleText.h"
 #include <csignal>
 #include <map>
 #include <memory>
@@ -68,7 +68,7 @@ static QJsonObject toJson(const std::filesystem::path &path, const Extraction &e
 static QString summary(const FileContent &content)
 {
     return std::visit(Overloaded {
-                          [](const TextContent &text) { return terminalText(text.text); },
+                          [](const TextContent &text) { return visibleText(text.text); },
                           [](const ImageContent &image) {
                               const QSize size = sizeOf(image);
                               QStringList lines { QCoreApplication::translate("Terminal", "%1, %2 × %3, %4 bytes")
@@ -77,7 +77,7 @@ static QString summary(const FileContent &content)
                                                       .arg(size.height())
                                                       .arg(image.data.size()) };
                               for (const QString &line : image.metadata.value_or(QString()).split(u'\n'))
-                                  lines.append(terminalText(line));
+                                  lines.append(visibleText(line));
                               return lines.join(u'\n').trimmed();
                           },
                       },
@@ -156,7 +156,7 @@ private:
                 break;
         }
         m_hasFailures = true;
-        m_terminal.complain(terminalText(*m_imageFolder) + u": "_s + error.description());
+        m_terminal.complain(visibleText(*m_imageFolder) + u": "_s + error.description());
         return tl::unexpected(error);
     }
 
@@ -170,7 +170,7 @@ private:
                                m_terminal.print(u"==> %1 <=="_s.arg(file));
                            m_terminal.print(summary(content));
                        },
-                       [&](const Unreadable &unreadable) { complain(terminalMessage(unreadable.message)); },
+                       [&](const Unreadable &unreadable) { complain(visibleMessage(unreadable.message)); },
                        [&](NoTextFound) { complain(QCoreApplication::translate("Terminal", "No text found")); },
                        [&](NotSupportedYet) {
                            complain(QCoreApplication::translate("Terminal", "This type of file is not supported yet."));
@@ -200,7 +200,7 @@ ExitCode run(const ExtractCommand &command, Session &session)
         std::filesystem::create_directories(*command.imageFolder, error);
         if (error) {
             const QString message = SystemError { error.value() }.description();
-            session.terminal().complain(terminalText(*command.imageFolder) + u": "_s + message);
+            session.terminal().complain(visibleText(*command.imageFolder) + u": "_s + message);
             return ExitCode::SomeFailed;
         }
     }

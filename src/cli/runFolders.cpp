@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/commands.h"
 #include "cli/FileArgumentList.h"
-#include "cli/terminalText.h"
+#include "platform/visibleText.h"
 #include "renaming/FolderBookmark.h"
 #include <QCoreApplication>
 #include <QJsonObject>
@@ -21,7 +21,7 @@ ExitCode run(const FoldersListCommand &command, Session &session)
             insertPath(object, u"path"_s, folder);
             session.terminal().printJson(object);
         } else {
-            session.terminal().print(terminalText(folder));
+            session.terminal().print(visibleText(folder));
         }
     }
     return ExitCode::Success;

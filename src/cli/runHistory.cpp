@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/commands.h"
 #include "cli/FileArgumentList.h"
-#include "cli/terminalText.h"
 #include "platform/shownPath.h"
+#include "platform/visibleText.h"
 #include <algorithm>
 #include <QCoreApplication>
 #include <QCoroTask>
@@ -62,8 +62,8 @@ ExitCode run(const HistoryCommand &command, Session &session)
         const QString state = entry.undoneAt ? QCoreApplication::translate("Terminal", "taken back") : QString();
         rows.push_back(
             { { timeFromSecondsSince2001(entry.date).toLocalTime().toString(u"yyyy-MM-dd HH:mm"_s), Colour::Dim },
-                { terminalText(entry.fromPath.filename()), Colour::Plain },
-                { terminalText(entry.toPath.filename()), Colour::Green },
+                { visibleText(entry.fromPath.filename()), Colour::Plain },
+                { visibleText(entry.toPath.filename()), Colour::Green },
                 { pathFromHere(entry.toPath.parent_path()), Colour::Dim }, { state, Colour::Yellow } });
     }
     session.tellNotices();
@@ -128,7 +128,7 @@ static bool undo(const QString &id, const UndoCommand &command, Session &session
         outcome = QCoro::waitFor(session.renameLog().revert(id));
     if (!outcome) {
         object.insert(u"message"_s, outcome.error());
-        terminal.complain(terminalText(id) + u": "_s + terminalMessage(outcome.error()));
+        terminal.complain(visibleText(id) + u": "_s + visibleMessage(outcome.error()));
     } else if (*outcome) {
         insertPath(object, u"restoredPath"_s, **outcome);
         if (!command.json)

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/commands.h"
-#include "cli/terminalText.h"
 #include <cstdio>
 #include <QCoreApplication>
 #include <QCoroTask>

@@ -5,8 +5,8 @@
 #include "cli/FileArgumentList.h"
 #include "cli/Progress.h"
 #include "cli/suggestNames.h"
-#include "cli/terminalText.h"
 #include "history/applyHistoryChanges.h"
+#include "platform/visibleText.h"
 #include "renaming/planRenames.h"
 #include <algorithm>
 #include <csignal>
@@ -43,12 +43,12 @@ static void printPlan(const std::vector<const FileItem *> &items, Terminal &term
         const std::filesystem::path &path = items[index]->path;
         TableCell target;
         if (!outcomes[index])
-            target = { terminalText(description(outcomes[index].error())), Colour::Red };
+            target = { visibleText(description(outcomes[index].error())), Colour::Red };
         else if (*outcomes[index] == path)
             target = { QCoreApplication::translate("Terminal", "(stays as it is)"), Colour::Dim };
         else
-            target = { terminalText(outcomes[index]->filename()), Colour::Green };
-        rows.push_back({ { terminalText(path.filename()), Colour::Plain }, target,
+            target = { visibleText(outcomes[index]->filename()), Colour::Green };
+        rows.push_back({ { visibleText(path.filename()), Colour::Plain }, target,
             { pathFromHere(path.parent_path()), Colour::Dim } });
     }
     terminal.printTable(
@@ -65,7 +65,7 @@ static void tellOfRest(const RenamerViewModel &batch, Terminal &terminal)
             continue;
         const auto *failed = std::get_if<FileItem::Failed>(&item.status);
         terminal.complain(
-            pathFromHere(item.path) + u": "_s + (failed ? terminalMessage(failed->message) : label(item.status)));
+            pathFromHere(item.path) + u": "_s + (failed ? visibleMessage(failed->message) : label(item.status)));
     }
 }
 
@@ -97,7 +97,7 @@ static bool isConfirmed(const RenameCommand &command, qsizetype count, Session &
 static void addFailure(RenameSummary &summary, const QString &reason)
 {
     if (summary.failedCount++ == 0)
-        summary.failure = terminalMessage(reason);
+        summary.failure = visibleMessage(reason);
 }
 
 /// The newest entry of the history that led to the file as it is now; "" where the history could not take it in.
@@ -110,7 +110,7 @@ static QString entryIdOf(const std::filesystem::path &path, const RenameLog &log
 
 static void addRename(RenameSummary &summary, const FileItem &item, const RenameLog &log)
 {
-    summary.newNames.append(terminalText(item.path.filename()));
+    summary.newNames.append(visibleText(item.path.filename()));
     if (const QString id = entryIdOf(item.path, log); !id.isEmpty())
         summary.entryIds.push_back(id);
 }
@@ -137,7 +137,7 @@ static qsizetype renameFiles(
         if (command.json)
             terminal.printJson(renamedToJson(item, oldPaths.at(item.id)));
         if (failed)
-            terminal.complain(pathFromHere(item.path) + u": "_s + terminalMessage(failed->message));
+            terminal.complain(pathFromHere(item.path) + u": "_s + visibleMessage(failed->message));
         progress.advance();
         if (isInterrupted)
             batch.stopRenaming();

@@ -4,7 +4,7 @@
 #include "cli/FileArgumentList.h"
 #include "cli/suggestionCell.h"
 #include "cli/suggestNames.h"
-#include "cli/terminalText.h"
+#include "platform/visibleText.h"
 #include <algorithm>
 #include <QCoreApplication>
 
@@ -23,7 +23,7 @@ static void printTable(const FileItems &items, Terminal &terminal)
     for (const FileItem &item : items) {
         rows.push_back({ { pathFromHere(item.path), Colour::Plain }, suggestionCell(item) });
         if (hasTags)
-            rows.back().push_back({ terminalText(item.suggestedTags.join(u", "_s)), Colour::Dim });
+            rows.back().push_back({ visibleText(item.suggestedTags.join(u", "_s)), Colour::Dim });
     }
     terminal.printTable(headings, rows);
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/commands.h"
-#include "cli/terminalText.h"
+#include "platform/visibleText.h"
 #include <QCoreApplication>
 
 namespace Varlo {
@@ -31,8 +31,8 @@ ExitCode run(const TemplatesListCommand &command, Session &session)
         QStringList fields;
         for (const TemplateField field : nameTemplate.fields)
             fields.append(rawValue(field));
-        rows.push_back({ { terminalText(nameTemplate.id), Colour::Plain },
-            { terminalText(templateTitle(nameTemplate)), Colour::Plain }, { fields.join(u' '), Colour::Plain },
+        rows.push_back({ { visibleText(nameTemplate.id), Colour::Plain },
+            { visibleText(templateTitle(nameTemplate)), Colour::Plain }, { fields.join(u' '), Colour::Plain },
             { nameTemplate.exampleName(systemFilenameLanguage(session.locale())), Colour::Dim } });
     }
     terminal.printTable(

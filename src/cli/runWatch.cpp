@@ -5,8 +5,8 @@
 #include "cli/ReadyNotice.h"
 #include "cli/suggestionCell.h"
 #include "cli/suggestNames.h"
-#include "cli/terminalText.h"
 #include "notify/makeNotifier.h"
+#include "platform/visibleText.h"
 #include "watch/FolderWatcher.h"
 #include "workflow/takeNewFiles.h"
 #include <csignal>
@@ -125,7 +125,7 @@ void Watch::print(const FileItem &item)
     } else {
         TableRow row { { pathFromHere(item.path), Colour::Plain }, { u"→"_s, Colour::Dim }, suggestionCell(item) };
         if (!item.suggestedTags.isEmpty())
-            row.push_back({ terminalText(item.suggestedTags.join(u", "_s)), Colour::Dim });
+            row.push_back({ visibleText(item.suggestedTags.join(u", "_s)), Colour::Dim });
         m_terminal.printRow(row);
     }
     if (lacksKey(item) && !std::exchange(m_hasAdvisedOnKey, true))

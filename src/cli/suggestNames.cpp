@@ -4,9 +4,9 @@
 
 #include "cli/FileArgumentList.h"
 #include "cli/Progress.h"
-#include "cli/terminalText.h"
 #include "platform/pathExtension.h"
 #include "platform/shownPath.h"
+#include "platform/visibleText.h"
 #include <algorithm>
 #include <csignal>
 #include <QCoreApplication>
@@ -65,7 +65,7 @@ static void complainOfRefused(
     const FileArgumentList &arguments, Terminal &terminal, const std::function<void(const FileItem &)> &whenDone)
 {
     for (const RefusedArgument &refused : arguments.refused) {
-        terminal.complain(pathFromHere(refused.path) + u": "_s + terminalText(refused.message));
+        terminal.complain(pathFromHere(refused.path) + u": "_s + visibleText(refused.message));
         FileItem item;
         item.path = refused.path;
         item.status = FileItem::Failed { refused.message };

@@ -3,7 +3,7 @@
 #include "cli/suggestionCell.h"
 
 #include "cli/suggestNames.h"
-#include "cli/terminalText.h"
+#include "platform/visibleText.h"
 
 namespace Varlo {
 
@@ -12,10 +12,10 @@ TableCell suggestionCell(const FileItem &item)
     const auto statusCell = [&item](Colour colour) { return TableCell { label(item.status), colour }; };
     return std::visit(Overloaded {
                           [&](FileItem::Suggested) {
-                              return TableCell { terminalText(suggestedFileName(item)), Colour::Green };
+                              return TableCell { visibleText(suggestedFileName(item)), Colour::Green };
                           },
                           [](const FileItem::Failed &failed) {
-                              return TableCell { terminalMessage(failed.message), Colour::Red };
+                              return TableCell { visibleMessage(failed.message), Colour::Red };
                           },
                           [&](FileItem::Pending) { return statusCell(Colour::Dim); },
                           [&](FileItem::Processing) { return statusCell(Colour::Dim); },

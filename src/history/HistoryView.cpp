@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/HistoryView.h"
 
+#include "platform/visibleText.h"
 #include <QLocale>
 #include <QPointer>
 
@@ -43,9 +44,18 @@ QString HistoryView::dayTitle(const QDate &day) const
 
 QVariant HistoryView::data(const QModelIndex &index, int role) const
 {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
     const auto date
         = [&] { return QSortFilterProxyModel::data(index, RenameLog::DateRole).toDateTime().toLocalTime(); };
+    const auto entry = [&]() -> const RenameLogEntry & {
+        return m_log.entries()[static_cast<std::size_t>(mapToSource(index).row())];
+    };
     switch (role) {
+    case RenameLog::ToNameRole:
+        return visibleText(entry().toPath.filename());
+    case RenameLog::FromNameRole:
+        return visibleText(entry().fromPath.filename());
     case DayRole:
         return dayTitle(date().date());
     case TimeRole:
@@ -164,9 +174,10 @@ void HistoryView::reset()
 
 void HistoryView::setLastError(const QString &message)
 {
-    if (m_lastError == message)
+    const QString shown = visibleMessage(message);
+    if (m_lastError == shown)
         return;
-    m_lastError = message;
+    m_lastError = shown;
     emit lastErrorChanged();
 }
 

@@ -19,6 +19,8 @@ static constexpr char32_t zeroWidthJoiner = 0x200D;
 
 static UChar32 icu(char32_t codePoint) { return static_cast<UChar32>(codePoint); }
 
+static bool isJoiner(char32_t codePoint) { return codePoint == zeroWidthJoiner || codePoint == zeroWidthNonJoiner; }
+
 static bool isVirama(char32_t codePoint) { return u_getCombiningClass(icu(codePoint)) == 9; }
 
 static bool hasJoiningType(char32_t codePoint, std::initializer_list<int> types)
@@ -56,7 +58,7 @@ static bool isShapingJoiner(const std::u32string &text, std::size_t at)
 static bool isDeceptive(const std::u32string &text, std::size_t at)
 {
     const char32_t codePoint = text[at];
-    if (codePoint == zeroWidthJoiner || codePoint == zeroWidthNonJoiner)
+    if (isJoiner(codePoint))
         return !isShapingJoiner(text, at);
     const int category = u_charType(icu(codePoint));
     if (category == U_CONTROL_CHAR || U_IS_UNICODE_NONCHAR(icu(codePoint)))
@@ -69,20 +71,29 @@ static bool isDeceptive(const std::u32string &text, std::size_t at)
     return isTag || isInvisible;
 }
 
-static QString withoutDeceptiveCharacters(const QString &name)
+static bool isPlain(const QString &name)
 {
-    const bool isPlain = std::all_of(name.begin(), name.end(), [](QChar unit) { return unit >= u' ' && unit <= u'~'; });
-    if (isPlain)
-        return name; // sanitizeFilename() has made its white space simple
+    return std::all_of(name.begin(), name.end(), [](QChar unit) { return unit >= u' ' && unit <= u'~'; });
+}
+
+template <typename IsKept> static QString filtered(const QString &name, IsKept isKept)
+{
     // toUcs4() turns a lone surrogate into U+FFFD.
     const QList<uint> codePoints = name.toUcs4();
     const std::u32string text(codePoints.begin(), codePoints.end());
     std::u32string kept;
     for (std::size_t at = 0; at < text.size(); ++at) {
-        if (!isDeceptive(text, at))
+        if (isKept(text, at))
             kept.push_back(text[at]);
     }
-    return QString::fromStdU32String(kept).simplified();
+    return QString::fromStdU32String(kept);
+}
+
+static QString withoutDeceptiveCharacters(const QString &name)
+{
+    if (isPlain(name))
+        return name; // sanitizeFilename() has made its white space simple
+    return filtered(name, [](const auto &text, std::size_t at) { return !isDeceptive(text, at); }).simplified();
 }
 
 static QString withoutLeadingDots(const QString &name)
@@ -145,6 +156,19 @@ std::string TargetName::candidate(int number, std::size_t byteLimit) const
         return {};
     const std::string start = fitting(base, byteLimit - ending.size());
     return start.empty() ? std::string() : start + ending;
+}
+
+QString editableName(const QString &name)
+{
+    QString shown = name;
+    if (!isPlain(name)) {
+        shown = filtered(
+            name, [](const auto &text, std::size_t at) { return isJoiner(text[at]) || !isDeceptive(text, at); });
+        for (const QChar::SpecialCharacter separator : { QChar::LineSeparator, QChar::ParagraphSeparator })
+            shown.replace(separator, QChar::Space);
+    }
+    const std::string bytes = shown.toStdString();
+    return bytes.size() <= longestName ? shown : QString::fromStdString(fitting(bytes, longestName));
 }
 
 static std::string extensionWithDot(std::string_view name)

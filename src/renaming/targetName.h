@@ -31,6 +31,11 @@ struct TargetName {
 /// Errors: InvalidName.
 [[nodiscard]] Result<TargetName, RenameError> targetName(std::string_view currentName, const QString &newName);
 
+/// A name that somebody thought of, as it may stand in a field to be edited: without the characters that targetName()
+/// takes away since they act on the text or hide in it, and no longer than a name can be. Joiners stay: whoever types
+/// one has not yet typed what it joins.
+[[nodiscard]] QString editableName(const QString &name);
+
 /// The target for a base name that the file had before: it comes back as it was, byte for byte.
 [[nodiscard]] TargetName formerName(std::string_view currentName, const std::string &formerBase);
 

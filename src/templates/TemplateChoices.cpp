@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "templates/TemplateChoices.h"
 
+#include "platform/visibleText.h"
 #include <QVariantMap>
 
 namespace Varlo {
@@ -20,9 +21,9 @@ QVariantList TemplateChoices::choices() const
 {
     QVariantList all;
     for (const NameTemplate &nameTemplate : m_store.templates()) {
-        all.append(QVariantMap { { u"id"_s, nameTemplate.id }, { u"name"_s, templateTitle(nameTemplate) },
+        all.append(QVariantMap { { u"id"_s, nameTemplate.id }, { u"name"_s, visibleText(templateTitle(nameTemplate)) },
             { u"isBuiltIn"_s, builtInTemplateName(nameTemplate.id).has_value() },
-            { u"example"_s, nameTemplate.exampleName(m_language()) } });
+            { u"example"_s, visibleText(nameTemplate.exampleName(m_language())) } });
     }
     return all;
 }

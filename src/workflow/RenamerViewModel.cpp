@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workflow/RenamerViewModel.h"
 
+#include "platform/Characters.h"
 #include "platform/pathExtension.h"
 #include "platform/shownPath.h"
+#include "platform/visibleText.h"
 #include "renaming/applyFinderTags.h"
 #include "renaming/FinderPermission.h"
 #include "renaming/renameWithFinder.h"
+#include "renaming/targetName.h"
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -40,6 +43,16 @@ static bool hasNameField(const FileItem &item)
 /// Whether a rename action may touch the file: not while it waits or is worked on, not twice, and not without a name.
 static bool isRenamable(const FileItem &item) { return !item.suggestedName.isEmpty() && hasNameField(item); }
 
+static QStringList visibleTags(const QStringList &tags)
+{
+    constexpr qsizetype longestTag = 30;
+    constexpr qsizetype mostBytes = 240; // a letter may carry any number of accents
+    QStringList shown;
+    for (const QString &tag : tags)
+        shown.append(visibleText(firstCharacters(tag, longestTag, mostBytes)));
+    return shown;
+}
+
 RenamerViewModel::RenamerViewModel(const Collaborators &collaborators, QObject *parent)
     : QAbstractListModel(parent)
     , m_with(collaborators)
@@ -59,30 +72,30 @@ QVariant RenamerViewModel::data(const QModelIndex &index, int role) const
     case IdRole:
         return item.id;
     case PathRole:
-        return shownPath(item.path);
+        return visibleText(std::filesystem::path(item.path));
     case Qt::DisplayRole:
     case FileNameRole:
-        return shownPath(item.path.filename());
+        return visibleText(item.path.filename());
     case ExtensionRole: {
         const std::string extension = pathExtension(item.path.filename());
-        return extension.empty() ? QString() : u'.' + shownPath(extension);
+        return extension.empty() ? QString() : u'.' + visibleText(std::filesystem::path(extension));
     }
     case FolderNameRole:
-        return shownPath(item.path.parentPath().filename());
+        return visibleText(item.path.parentPath().filename());
     case StatusRole:
         return rawValue(item.status);
     case StatusLabelRole:
         return label(item.status);
     case MessageRole: {
         const auto *failed = std::get_if<FileItem::Failed>(&item.status);
-        return failed ? failed->message : QString();
+        return failed ? visibleMessage(failed->message) : QString();
     }
     case SuggestedNameRole:
-        return item.suggestedName;
+        return editableName(item.suggestedName);
     case SuggestedTagsRole:
-        return item.suggestedTags;
+        return visibleTags(item.suggestedTags);
     case PreviousNameRole:
-        return item.previousName.value_or(QString());
+        return visibleText(item.previousName.value_or(QString()));
     case ByteSizeRole:
         return item.byteSize;
     case IconNameRole:

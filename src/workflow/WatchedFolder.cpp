@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "workflow/WatchedFolder.h"
 
-#include "platform/shownPath.h"
+#include "platform/visibleText.h"
 #include "settings/watchFolderPath.h"
 #include "workflow/takeNewFiles.h"
 #include <QPointer>
@@ -55,6 +55,6 @@ void WatchedFolder::apply()
     static_cast<void>(m_watcher.start(wanted->folder, wanted->includeExisting));
 }
 
-QString WatchedFolder::folderName() const { return m_applied ? shownPath(m_applied->folder.filename()) : QString(); }
+QString WatchedFolder::folderName() const { return m_applied ? visibleText(m_applied->folder.filename()) : QString(); }
 
 } // namespace Varlo

@@ -18,6 +18,8 @@ private slots:
     void knowsCurrentName();
     void fitsNumberedNames_data();
     void fitsNumberedNames();
+    void mayBeEdited_data();
+    void mayBeEdited();
     void givesFormerNameBackByteForByte();
 };
 
@@ -137,6 +139,24 @@ void TargetNameTest::fitsNumberedNames()
     const QString base = QString::fromStdString(name).chopped(7);
     QVERIFY(!base.isEmpty() && wanted.startsWith(base));
     QVERIFY(!base.endsWith(QChar(0x200D)));
+}
+
+void TargetNameTest::mayBeEdited_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("space lost behind a word, where the next one is typed") << u"Invoice "_s << u"Invoice "_s;
+    QTest::newRow("joiner lost before what it joins is typed") << u"می\u200C"_s << u"می\u200C"_s;
+    QTest::newRow("direction turned in the field") << u"annex\u202Efdp"_s << u"annexfdp"_s;
+    QTest::newRow("line breaks") << u"a\nb\u2028c\u2029d"_s << u"ab c d"_s;
+    QTest::newRow("a letter that takes a second to draw")
+        << u"e"_s + u"\u0301"_s.repeated(100'000) << u"e"_s + u"\u0301"_s.repeated(127);
+}
+
+void TargetNameTest::mayBeEdited()
+{
+    QFETCH(QString, name);
+    QTEST(editableName(name), "shown");
 }
 
 void TargetNameTest::givesFormerNameBackByteForByte()

@@ -24,6 +24,7 @@ private slots:
     void resetsOnlySuggestedFilesOnAChoice();
     void mayBeDestroyedDuringEverything();
     void keepsItsCounts();
+    void showsNothingThatActs();
 };
 
 void RenamerViewModelTest::admits_data()
@@ -300,6 +301,26 @@ void RenamerViewModelTest::keepsItsCounts()
     test.batch->clear();
     QCOMPARE(test.batch->totalBytes(), 0);
     QVERIFY(!test.batch->hasPending());
+}
+
+void RenamerViewModelTest::showsNothingThatActs()
+{
+    TestBatch test;
+    test.add({ test.make("down\nload\x1b/annex\xe2\x80\xae\nfdp\xff.txt") });
+    const auto shown = [&](int role) { return test.batch->index(0).data(role).toString(); };
+    QCOMPARE(shown(RenamerViewModel::FileNameRole), u"annex\\u202e\\nfdp\\377.txt"_s);
+    QCOMPARE(shown(RenamerViewModel::FolderNameRole), u"down\\nload\\033"_s);
+    test.suggest();
+    QCOMPARE(shown(RenamerViewModel::SuggestedNameRole), u"new annexfdp\uFFFD"_s);
+    QCoro::waitFor(test.batch->renameAll());
+    QCOMPARE(shown(RenamerViewModel::FileNameRole), u"new annexfdp\uFFFD.txt"_s);
+    QCOMPARE(shown(RenamerViewModel::PreviousNameRole), u"annex\\u202e\\nfdp\uFFFD.txt"_s);
+    test.add({ test.make("b.txt") });
+    test.suggester.errors.insert_or_assign(
+        u"b"_s, ApiError { u"no\nway\u202e"_s + u"e"_s + u"\u0301"_s.repeated(9999) });
+    test.suggest();
+    const QString message = test.batch->index(1).data(RenamerViewModel::MessageRole).toString();
+    QVERIFY2(message.startsWith(u"no\\nway\\u202e"_s) && message.size() < 100, qPrintable(message));
 }
 
 QTEST_GUILESS_MAIN(RenamerViewModelTest)

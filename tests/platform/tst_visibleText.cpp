@@ -1,23 +1,21 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/terminalText.h"
+#include "platform/visibleText.h"
 #include <QTest>
 
 using namespace Varlo;
 using namespace Qt::StringLiterals;
 
-class TerminalTextTest : public QObject {
+class VisibleTextTest : public QObject {
     Q_OBJECT
 private slots:
     void escapesText_data();
     void escapesText();
     void escapesPath_data();
     void escapesPath();
-    void elides_data();
-    void elides();
 };
 
-void TerminalTextTest::escapesText_data()
+void VisibleTextTest::escapesText_data()
 {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("shown");
@@ -37,13 +35,13 @@ void TerminalTextTest::escapesText_data()
     row("accents", u"é e\u0301 ß"_s, u"é e\u0301 ß"_s);
 }
 
-void TerminalTextTest::escapesText()
+void VisibleTextTest::escapesText()
 {
     QFETCH(QString, text);
-    QTEST(terminalText(text), "shown");
+    QTEST(visibleText(text), "shown");
 }
 
-void TerminalTextTest::escapesPath_data()
+void VisibleTextTest::escapesPath_data()
 {
     QTest::addColumn<QByteArray>("path");
     QTest::addColumn<QString>("shown");
@@ -56,36 +54,11 @@ void TerminalTextTest::escapesPath_data()
     row("UTF-8", "Caf\xc3\xa9", u"Café"_s);
 }
 
-void TerminalTextTest::escapesPath()
+void VisibleTextTest::escapesPath()
 {
     QFETCH(QByteArray, path);
-    QTEST(terminalText(std::filesystem::path(path.toStdString())), "shown");
+    QTEST(visibleText(std::filesystem::path(path.toStdString())), "shown");
 }
 
-void TerminalTextTest::elides_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("columns");
-    QTest::addColumn<QString>("shown");
-    const auto row = [](const char *slip, const QString &text, int columns, const QString &shown) {
-        QTest::newRow(slip) << text << columns << shown;
-    };
-    row("cut though it fits", u"abcde"_s, 5, u"abcde"_s);
-    row("a column unused", u"abcdefgh"_s, 6, u"abc…gh"_s);
-    row("wide ones counted once", u"日本語日本語"_s, 7, u"日…語"_s);
-    row("half a wide one", u"日本語日本語"_s, 6, u"日…語"_s);
-    row("accent lost", u"e\u0301e\u0301e\u0301e\u0301"_s, 3, u"e\u0301…e\u0301"_s);
-    row("accents counted", u"e\u0301e\u0301e\u0301e\u0301"_s, 4, u"e\u0301e\u0301e\u0301e\u0301"_s);
-    row("one column", u"abc"_s, 1, u"…"_s);
-    row("no column", u"abc"_s, 0, u""_s);
-}
-
-void TerminalTextTest::elides()
-{
-    QFETCH(QString, text);
-    QFETCH(int, columns);
-    QTEST(elidedInMiddle(text, columns), "shown");
-}
-
-QTEST_GUILESS_MAIN(TerminalTextTest)
-#include "tst_terminalText.moc"
+QTEST_GUILESS_MAIN(VisibleTextTest)
+#include "tst_visibleText.moc"

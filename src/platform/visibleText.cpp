@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/terminalText.h"
+#include "platform/visibleText.h"
 
 #include "platform/Characters.h"
 #include <unicode/uchar.h>
@@ -50,7 +50,7 @@ static void append(QString &out, UChar32 codePoint)
         appendEscaped(out, codePoint);
 }
 
-QString terminalText(QStringView text)
+QString visibleText(QStringView text)
 {
     QString out;
     out.reserve(text.size());
@@ -62,7 +62,7 @@ QString terminalText(QStringView text)
     return out;
 }
 
-QString terminalText(const std::filesystem::path &path)
+QString visibleText(const std::filesystem::path &path)
 {
     const std::string &bytes = path.native();
     const auto size = static_cast<int32_t>(bytes.size());
@@ -82,46 +82,12 @@ QString terminalText(const std::filesystem::path &path)
     return out;
 }
 
-QString terminalMessage(const QString &message)
+QString visibleMessage(const QString &message)
 {
     constexpr qsizetype longest = 500;
-    const QStringView start = firstCharacters(message, longest);
-    return start.size() < message.size() ? terminalText(start) + u'…' : terminalText(start);
-}
-
-/// As much of the front as fits into the columns.
-static QString front(QStringView text, int columns)
-{
-    qsizetype characters = 0;
-    qsizetype end = 0;
-    while (end < text.size()) {
-        const qsizetype next = firstCharacters(text, characters + 1).size();
-        if (terminalWidth(text.first(next)) > columns)
-            break;
-        end = next;
-        ++characters;
-    }
-    return text.first(end).toString();
-}
-
-/// As much of the end as fits into the columns.
-static QString back(QStringView text, int columns)
-{
-    qsizetype characters = 0;
-    qsizetype start = 0;
-    while (start < text.size() && terminalWidth(text.sliced(start)) > columns)
-        start = firstCharacters(text, ++characters).size();
-    return text.sliced(start).toString();
-}
-
-QString elidedInMiddle(const QString &text, int columns)
-{
-    if (terminalWidth(text) <= columns)
-        return text;
-    if (columns < 1)
-        return {};
-    const int atEnd = (columns - 1) / 2;
-    return front(text, columns - 1 - atEnd) + u'…' + back(text, atEnd);
+    constexpr qsizetype mostBytes = 4096; // a letter may carry thousands of accents, which take long to lay out
+    const QStringView start = firstCharacters(message, longest, mostBytes);
+    return start.size() < message.size() ? visibleText(start) + u'…' : visibleText(start);
 }
 
 } // namespace Varlo
