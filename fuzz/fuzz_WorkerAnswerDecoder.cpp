@@ -29,6 +29,11 @@ static void expect(bool isKept)
 /// What whoever takes the answer relies on.
 static void check(const WorkerAnswer &answer)
 {
+    if (const auto *const picture = std::get_if<PicturePreview>(&answer)) {
+        const QSize size = picture->size;
+        expect(!size.isEmpty() && size.width() <= 400 && size.height() <= 400);
+        expect(picture->pixels.size() == qsizetype { size.width() } * size.height() * 3);
+    }
     const auto *const content = std::get_if<FileContent>(&answer);
     if (!content)
         return;

@@ -4,7 +4,6 @@
 
 #include "extraction/isolation/ExtractorProcess.h"
 #include "extraction/isolation/Turns.h"
-#include "extraction/jpegSize.h"
 #include "extraction/openForReading.h"
 #include "extraction/readPlainText.h"
 #include "extraction/readTextPreview.h"
@@ -147,8 +146,8 @@ QCoro::Task<WorkerOutcome> IsolatedContentReader::State::askWithAll(Shared state
 }
 
 /// An answer to another question, or one that asks for libraries a second time, comes from nobody who means well.
-template <typename Outcome, typename TakeContent>
-static Outcome fromWorker(const WorkerOutcome &outcome, const TakeContent &takeContent)
+template <typename Outcome, typename TakeContent, typename TakePicture>
+static Outcome fromWorker(const WorkerOutcome &outcome, const TakeContent &takeContent, const TakePicture &takePicture)
 {
     const auto unreadable = [](WorkerFailure failure) -> Outcome { return Unreadable { wordsFor(failure) }; };
     const auto *const answer = std::get_if<WorkerAnswer>(&outcome);
@@ -156,6 +155,7 @@ static Outcome fromWorker(const WorkerOutcome &outcome, const TakeContent &takeC
         return unreadable(std::get<WorkerFailure>(outcome));
     return std::visit(Overloaded {
                           [&](const FileContent &content) -> Outcome { return takeContent(content); },
+                          [&](const PicturePreview &picture) -> Outcome { return takePicture(picture); },
                           [](NoTextFound) -> Outcome { return NoTextFound {}; },
                           [&](ReaderNotInstalled) { return unreadable(WorkerFailure::NotInstalled); },
                           [&](RecognitionNeeded) { return unreadable(WorkerFailure::Unsafe); },
@@ -181,19 +181,20 @@ QCoro::Task<Extraction> IsolatedContentReader::State::read(Shared state, std::fi
     WorkerJob job;
     job.extension = lowerCaseExtension(path);
     const WorkerOutcome outcome = co_await askWithAll(state, job, file);
-    co_return fromWorker<Extraction>(outcome, [](const FileContent &content) { return content; });
+    co_return fromWorker<Extraction>(
+        outcome, [](const FileContent &content) { return content; },
+        [](const PicturePreview &) { return Unreadable { unsafeMessage() }; });
 }
 
 static Preview toPreview(const FileContent &content)
 {
-    return std::visit(Overloaded {
-                          [](const TextContent &text) -> Preview {
-                              return TextPreview { firstCharacters(text.text, mostPreviewCharacters).toString() };
-                          },
-                          [](const ImageContent &image) -> Preview {
-                              return PicturePreview { image.data, jpegSize(image.data).value_or(QSize()) };
-                          },
-                      },
+    return std::visit(
+        Overloaded {
+            [](const TextContent &text) -> Preview {
+                return TextPreview { firstCharacters(text.text, mostPreviewCharacters, mostPreviewBytes).toString() };
+            },
+            [](const ImageContent &) -> Preview { return Unreadable { unsafeMessage() }; },
+        },
         content);
 }
 
@@ -213,9 +214,9 @@ QCoro::Task<Preview> IsolatedContentReader::State::preview(Shared state, std::fi
     WorkerJob job;
     job.kind = isOneOf(officeExtensions, extension) ? WorkerJob::Kind::Extract : WorkerJob::Kind::Preview;
     job.extension = extension;
-    job.longestSide = longestSide;
+    job.longestSide = std::clamp(longestSide, 1, longestPreviewSide);
     const WorkerOutcome outcome = co_await askWithAll(state, job, file);
-    co_return fromWorker<Preview>(outcome, toPreview);
+    co_return fromWorker<Preview>(outcome, toPreview, [](const PicturePreview &picture) { return picture; });
 }
 
 QCoro::Task<Result<ReadersReport, QString>> IsolatedContentReader::State::inspect(Shared state)

@@ -3,9 +3,9 @@
 #pragma once
 
 #include "extraction/Extraction.h"
+#include "extraction/PicturePreview.h"
 #include <filesystem>
 #include <QCoroTask>
-#include <QSize>
 
 namespace Varlo {
 
@@ -14,19 +14,14 @@ struct TextPreview {
 
     bool operator==(const TextPreview &) const = default;
 };
-struct PicturePreview {
-    QByteArray data; ///< a JPEG
-    QSize size; ///< in pixels
-
-    bool operator==(const PicturePreview &) const = default;
-};
 /// What somebody sees of a file at a glance: a picture, the first page of a PDF, or the beginning of a text.
 using Preview = std::variant<TextPreview, PicturePreview, Unreadable, NoTextFound, NotSupportedYet>;
 
 /// Shows files at a glance.
 struct PreviewReader {
     virtual ~PreviewReader() = default;
-    /// Always ends: every failure is a case of the outcome. A picture is at most so many pixels long and wide.
+    /// Always ends: every failure is a case of the outcome. A picture is at most so many pixels long and wide, and in
+    /// any case at most longestPreviewSide.
     [[nodiscard]] virtual QCoro::Task<Preview> preview(std::filesystem::path path, int longestSide) = 0;
 };
 

@@ -12,7 +12,7 @@ namespace Varlo {
 
 Preview readTextPreview(const FileDescriptor &file)
 {
-    std::array<char, std::size_t { 4 } * mostPreviewCharacters> buffer;
+    std::array<char, mostPreviewBytes> buffer;
     const ssize_t size = retryInterrupted([&] { return ::pread(file.get(), buffer.data(), buffer.size(), 0); });
     if (size <= 0)
         return NoTextFound {};

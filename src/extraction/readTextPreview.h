@@ -8,6 +8,7 @@
 namespace Varlo {
 
 inline constexpr qsizetype mostPreviewCharacters = 4000;
+inline constexpr qsizetype mostPreviewBytes = 4 * mostPreviewCharacters; ///< a letter may have any number of accents
 
 /// The beginning of a file of UTF-8 text with its lines, or NoTextFound where it begins otherwise or has nothing to
 /// show. Unlike readPlainText() it does not look at the rest.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "extraction/Extraction.h"
+#include "extraction/PicturePreview.h"
 #include <QJsonObject>
 
 namespace Varlo {
@@ -27,7 +28,7 @@ struct ReadersFound {
 };
 
 /// What a worker says when it is done.
-using WorkerAnswer
-    = std::variant<FileContent, NoTextFound, RecognitionNeeded, FurtherDecoderNeeded, ReaderNotInstalled, ReadersFound>;
+using WorkerAnswer = std::variant<FileContent, PicturePreview, NoTextFound, RecognitionNeeded, FurtherDecoderNeeded,
+    ReaderNotInstalled, ReadersFound>;
 
 } // namespace Varlo

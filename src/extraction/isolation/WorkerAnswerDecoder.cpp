@@ -43,7 +43,9 @@ static bool isNormalized(const QString &text)
     return characters >= fewestTextCharacters && characters <= mostTextCharacters;
 }
 
-static qsizetype mostBytes(AnswerKind kind)
+static qsizetype bytesOfPixels(int width, int height) { return qsizetype { width } * height * 3; }
+
+static qsizetype mostBytes(AnswerKind kind, const WorkerJob &job)
 {
     switch (kind) {
     case AnswerKind::Text:
@@ -52,6 +54,8 @@ static qsizetype mostBytes(AnswerKind kind)
         return mostPictureBytes;
     case AnswerKind::ReadersFound:
         return mostFindingsBytes;
+    case AnswerKind::Pixels:
+        return qsizetype { sizeof(PixelsHeader) } + bytesOfPixels(job.longestSide, job.longestSide);
     case AnswerKind::NoText:
     case AnswerKind::RecognitionNeeded:
     case AnswerKind::FurtherDecoderNeeded:
@@ -68,9 +72,11 @@ static bool isAllowed(AnswerKind kind, const WorkerJob &job)
     switch (kind) {
     case AnswerKind::NoText:
     case AnswerKind::NotInstalled:
-    case AnswerKind::Picture:
         return !inspects;
+    case AnswerKind::Pixels:
+        return job.kind == WorkerJob::Kind::Preview;
     case AnswerKind::Text:
+    case AnswerKind::Picture:
         return job.kind == WorkerJob::Kind::Extract;
     case AnswerKind::RecognitionNeeded:
         return job.kind == WorkerJob::Kind::Extract && !job.recognizesText;
@@ -122,11 +128,11 @@ WorkerAnswerDecoder::State WorkerAnswerDecoder::takeProgress(QByteArrayView mess
 WorkerAnswerDecoder::State WorkerAnswerDecoder::takeHeader(QByteArrayView message)
 {
     const auto header = decode<AnswerHeader>(message);
-    if (!header || !isAllowed(header->kind, m_job) || header->bytes > mostBytes(header->kind)
+    if (!header || !isAllowed(header->kind, m_job) || header->bytes > mostBytes(header->kind, m_job)
         || header->metadataBytes > mostMetadataBytes)
         return State::Nonsense;
-    const bool mayHaveMetadata = header->kind == AnswerKind::Picture && m_job.kind == WorkerJob::Kind::Extract;
-    if ((header->hasMetadata != 0 && !mayHaveMetadata) || (header->hasMetadata == 0 && header->metadataBytes != 0))
+    if ((header->hasMetadata != 0 && header->kind != AnswerKind::Picture)
+        || (header->hasMetadata == 0 && header->metadataBytes != 0))
         return State::Nonsense;
     m_header = header;
     m_bytes.reserve(missingBytes());
@@ -164,10 +170,10 @@ static std::optional<WorkerAnswer> textAnswer(QByteArrayView bytes)
     return FileContent { TextContent { *text } };
 }
 
-static std::optional<WorkerAnswer> pictureAnswer(QByteArrayView bytes, std::optional<QByteArrayView> metadata, int side)
+static std::optional<WorkerAnswer> pictureAnswer(QByteArrayView bytes, std::optional<QByteArrayView> metadata)
 {
     const std::optional<QSize> size = jpegSize(bytes);
-    if (!size || size->width() > side || size->height() > side)
+    if (!size || size->width() > longestSideOfContent || size->height() > longestSideOfContent)
         return {};
     ImageContent image { bytes.toByteArray(), u"image/jpeg"_s, {} };
     if (metadata) {
@@ -176,6 +182,17 @@ static std::optional<WorkerAnswer> pictureAnswer(QByteArrayView bytes, std::opti
             return {};
     }
     return FileContent { image };
+}
+
+static std::optional<WorkerAnswer> pixelsAnswer(QByteArrayView bytes, int side)
+{
+    const auto header = decode<PixelsHeader>(bytes.first(std::min(bytes.size(), qsizetype { sizeof(PixelsHeader) })));
+    if (!header || header->width < 1 || header->height < 1 || header->width > side || header->height > side)
+        return {};
+    const QByteArrayView pixels = bytes.sliced(sizeof(PixelsHeader));
+    if (pixels.size() != bytesOfPixels(header->width, header->height))
+        return {};
+    return PicturePreview { { header->width, header->height }, pixels.toByteArray() };
 }
 
 std::optional<WorkerAnswer> WorkerAnswerDecoder::checkedAnswer() const
@@ -193,10 +210,10 @@ std::optional<WorkerAnswer> WorkerAnswerDecoder::checkedAnswer() const
         return ReaderNotInstalled {};
     case AnswerKind::Text:
         return textAnswer(bytes);
-    case AnswerKind::Picture: {
-        const int side = m_job.kind == WorkerJob::Kind::Preview ? m_job.longestSide : longestSideOfContent;
-        return pictureAnswer(bytes, m_header->hasMetadata != 0 ? std::optional(metadata) : std::nullopt, side);
-    }
+    case AnswerKind::Picture:
+        return pictureAnswer(bytes, m_header->hasMetadata != 0 ? std::optional(metadata) : std::nullopt);
+    case AnswerKind::Pixels:
+        return pixelsAnswer(bytes, m_job.longestSide);
     case AnswerKind::ReadersFound: {
         const QJsonDocument document = QJsonDocument::fromJson(bytes.toByteArray());
         if (!document.isObject())

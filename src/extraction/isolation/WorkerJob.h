@@ -18,7 +18,7 @@ struct WorkerJob {
     std::string extension; ///< in lower case, without "."; at most 7 bytes
     bool recognizesText = false; ///< pages of a PDF without text may be recognized, which takes long
     bool usesFurtherDecoder = false; ///< the picture is of a kind that its extension did not tell
-    int longestSide = 0; ///< in pixels, of a preview
+    int longestSide = 0; ///< in pixels, of a preview; at most longestPreviewSide
 };
 
 } // namespace Varlo

@@ -18,7 +18,8 @@ enum class AnswerKind : quint8 {
     RecognitionNeeded,
     FurtherDecoderNeeded,
     NotInstalled,
-    ReadersFound
+    ReadersFound,
+    Pixels ///< PixelsHeader, then the pixels of a PicturePreview
 };
 
 struct AnswerStarted {
@@ -36,6 +37,11 @@ struct AnswerHeader {
     quint8 unused = 0;
     quint32 metadataBytes = 0; // they come first
     quint32 bytes = 0;
+};
+
+struct PixelsHeader {
+    quint16 width = 0;
+    quint16 height = 0;
 };
 
 inline constexpr qsizetype mostChunkBytes = qsizetype { 64 } * 1024;

@@ -54,6 +54,14 @@ void AnswerWriter::write(const WorkerAnswer &answer)
 {
     std::visit(Overloaded {
                    [this](const FileContent &content) { writeContent(content); },
+                   [this](const PicturePreview &picture) {
+                       PixelsHeader size;
+                       size.width = static_cast<quint16>(picture.size.width());
+                       size.height = static_cast<quint16>(picture.size.height());
+                       writeMessage(headerFor(AnswerKind::Pixels, qsizetype { sizeof size } + picture.pixels.size()));
+                       writeMessage(size);
+                       writeBytes(picture.pixels);
+                   },
                    [this](NoTextFound) { writeMessage(headerFor(AnswerKind::NoText)); },
                    [this](RecognitionNeeded) { writeMessage(headerFor(AnswerKind::RecognitionNeeded)); },
                    [this](FurtherDecoderNeeded) { writeMessage(headerFor(AnswerKind::FurtherDecoderNeeded)); },

@@ -44,13 +44,6 @@ static WorkerAnswer toAnswer(const Extraction &extraction)
         extraction);
 }
 
-static WorkerAnswer toPictureAnswer(const QByteArray &jpeg)
-{
-    if (jpeg.isEmpty())
-        return NoTextFound {};
-    return FileContent { ImageContent { jpeg, u"image/jpeg"_s, {} } };
-}
-
 template <typename Module>
 static void loadOnce(bool isLoaded, Module &module, QLatin1StringView name, const char *entry)
 {
@@ -164,9 +157,12 @@ WorkerAnswer FileReaders::readPDF(
 
 WorkerAnswer FileReaders::previewPDF(const WorkerJob &job, const FileDescriptor &file) const
 {
-    if (!m_pdf.renderFirstPage)
+    if (!m_pdf.preview)
         return ReaderNotInstalled {};
-    return toPictureAnswer(m_pdf.renderFirstPage(file, job.longestSide).value_or(QByteArray()));
+    const std::optional<PicturePreview> page = m_pdf.preview(file, job.longestSide);
+    if (!page)
+        return NoTextFound {};
+    return *page;
 }
 
 /// What to say to a picture for which the further decoder is missing.
@@ -191,8 +187,12 @@ WorkerAnswer FileReaders::previewPicture(const WorkerJob &job, const FileDescrip
     if (!m_pictures.preview)
         return ReaderNotInstalled {};
     const auto outcome = m_pictures.preview(file, job.extension, job.longestSide, m_furtherDecoder.decoder.get());
-    const auto *const jpeg = std::get_if<QByteArray>(&outcome);
-    return jpeg ? toPictureAnswer(*jpeg) : withoutFurtherDecoder(job);
+    return std::visit(Overloaded {
+                          [](const PicturePreview &picture) -> WorkerAnswer { return picture; },
+                          [](NoTextFound) -> WorkerAnswer { return NoTextFound {}; },
+                          [&](NeedsFurtherDecoder) { return withoutFurtherDecoder(job); },
+                      },
+        outcome);
 }
 
 QJsonObject FileReaders::findings() const

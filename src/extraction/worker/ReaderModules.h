@@ -3,13 +3,13 @@
 #pragma once
 
 #include "extraction/pdf/readPDF.h"
+#include "extraction/pdf/renderFirstPage.h"
 #include "extraction/pdf/TextRecognizer.h"
+#include "extraction/PicturePreview.h"
 #include "extraction/pictures/PictureDecoder.h"
 #include "extraction/pictures/readImage.h"
 #include "platform/FileDescriptor.h"
 #include <memory>
-#include <optional>
-#include <QByteArray>
 #include <QStringList>
 #include <string_view>
 
@@ -20,10 +20,10 @@ namespace Varlo {
 
 struct PDFModule {
     decltype(&readPDF) read = nullptr;
-    std::optional<QByteArray> (*renderFirstPage)(const FileDescriptor &file, int longestSide) = nullptr;
+    decltype(&renderFirstPage) preview = nullptr;
 };
 using PDFModuleEntry = void (*)(PDFModule &module);
-inline constexpr char pdfModuleEntryName[] = "varloPDF1";
+inline constexpr char pdfModuleEntryName[] = "varloPDF2";
 
 struct RecognitionModule {
     std::unique_ptr<TextRecognizer> recognizer;
@@ -34,14 +34,14 @@ inline constexpr char recognitionModuleEntryName[] = "varloRecognition1";
 
 struct PicturesModule {
     decltype(&readImage) read = nullptr;
-    /// A JPEG; empty where there is no picture. NeedsFurtherDecoder as in readImage().
-    std::variant<QByteArray, NeedsFurtherDecoder> (*preview)(
+    /// NoTextFound where there is no picture. NeedsFurtherDecoder as in readImage().
+    std::variant<PicturePreview, NoTextFound, NeedsFurtherDecoder> (*preview)(
         const FileDescriptor &file, std::string_view extension, int longestSide, PictureDecoder *furtherDecoder)
         = nullptr;
     QStringList missingFormats; ///< extensions that no installed library decodes
 };
 using PicturesModuleEntry = void (*)(PicturesModule &module);
-inline constexpr char picturesModuleEntryName[] = "varloPictures1";
+inline constexpr char picturesModuleEntryName[] = "varloPictures2";
 
 /// What the module of pictures leaves to others.
 struct FurtherDecoderModule {

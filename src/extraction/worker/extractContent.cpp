@@ -27,6 +27,7 @@ static Extraction readByKind(const FileDescriptor &file, const std::string &exte
         answer = perform(job, file, readers);
     return std::visit(Overloaded {
                           [](const FileContent &content) -> Extraction { return content; },
+                          [](const PicturePreview &) -> Extraction { return NoTextFound {}; },
                           [](NoTextFound) -> Extraction { return NoTextFound {}; },
                           [](RecognitionNeeded) -> Extraction { return NoTextFound {}; },
                           [](FurtherDecoderNeeded) -> Extraction { return NoTextFound {}; },

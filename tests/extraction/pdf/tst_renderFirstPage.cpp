@@ -3,7 +3,6 @@
 #include "extraction/pdf/renderFirstPage.h"
 
 #include "extraction/pdf/TestPDF.h"
-#include <QImage>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -36,12 +35,10 @@ void RenderFirstPageTest::fits()
     QFETCH(QSize, size);
     // Two pages, so that the wrong one would show: red, then white.
     const QByteArray pdf = pagesPDF({ { "1 0 0 rg 0 0 20000 20000 re f", attributes }, { {}, attributes } });
-    const auto jpeg = renderFirstPage(fileOf(pdf), 800);
-    QVERIFY(jpeg);
-    const QImage image = QImage::fromData(*jpeg, "JPEG");
-    QCOMPARE(image.size(), size);
-    const QColor middle = image.pixelColor(size.width() / 2, size.height() / 2);
-    QVERIFY2(middle.red() > 250 && middle.green() < 5 && middle.blue() < 5, qPrintable(middle.name()));
+    const auto page = renderFirstPage(fileOf(pdf), 800);
+    QVERIFY(page);
+    QCOMPARE(page->size, size);
+    QVERIFY(page->pixels == "\xff\0\0"_ba.repeated(size.width() * size.height()));
 }
 
 void RenderFirstPageTest::refuses_data()

@@ -52,6 +52,14 @@ static QByteArray jpeg(int width, int height, const QByteArray &front = "\xFF\xE
     return "\xFF\xD8"_ba + front + frame + QByteArray(10, 1);
 }
 
+/// A picture of so many pixels, or of that and some bytes more.
+static QList<QByteArray> pixels(int width, int height, qsizetype moreBytes = 0)
+{
+    const PixelsHeader size { static_cast<quint16>(width), static_cast<quint16>(height) };
+    const QByteArray bytes = bytesOf(size) + QByteArray(qsizetype { width } * height * 3 + moreBytes, 'p');
+    return { header(AnswerKind::Pixels, bytes.size()), bytes };
+}
+
 static QList<QByteArray> textAnswer(const QString &text)
 {
     const QByteArray utf8 = text.toUtf8();
@@ -76,7 +84,8 @@ void WorkerAnswerDecoderTest::takes_data()
     row("text in pieces", recognizeJob, { header(AnswerKind::Text, 30), "twelve bytes"_ba, " and eighteen more"_ba });
     row("photo", extractJob, { header(AnswerKind::Picture, jpeg(1568, 1568).size(), 3), "EXI"_ba, jpeg(1568, 1568) });
     row("photo without facts", extractJob, { header(AnswerKind::Picture, jpeg(9, 9).size()), jpeg(9, 9) });
-    row("page", previewJob, { header(AnswerKind::Picture, jpeg(400, 300).size()), jpeg(400, 300) });
+    row("page", previewJob, pixels(400, 300));
+    row("one pixel", previewJob, pixels(1, 1));
     row("findings", inspectJob, { header(AnswerKind::ReadersFound, 2), "{}" });
 }
 
@@ -109,7 +118,7 @@ void WorkerAnswerDecoderTest::refuses_data()
     row("unknown message", extractJob, { "nonsense"_ba });
     row("begun twice", extractJob, { started, started });
     row("header cut short", extractJob, { header(AnswerKind::NoText).chopped(1) });
-    row("unknown kind", extractJob, { header(static_cast<AnswerKind>(7)) });
+    row("unknown kind", extractJob, { header(static_cast<AnswerKind>(8)) });
     row("a GiB", extractJob, { header(AnswerKind::Picture, 1 << 30) });
     row("a GiB of metadata", extractJob, { header(AnswerKind::Picture, 9, 1 << 30) });
     row("more bytes than announced", extractJob, { header(AnswerKind::Text, 30), QByteArray(31, 'x') });
@@ -131,7 +140,15 @@ void WorkerAnswerDecoderTest::refuses_data()
     row("no JPEG", extractJob, picture(QByteArray(100, 'x')));
     row("too wide", extractJob, picture(jpeg(1569, 9)));
     row("too high", extractJob, picture(jpeg(9, 1569)));
-    row("larger than asked for", previewJob, picture(jpeg(401, 9)));
+    row("JPEG to be decoded by whoever looks", previewJob, { header(AnswerKind::Picture, jpeg(9, 9).size()) });
+    row("pixels for the model", extractJob, { header(AnswerKind::Pixels, 7) });
+    row("preview too wide", previewJob, pixels(401, 1));
+    row("preview too high", previewJob, pixels(1, 401));
+    row("preview without pixels", previewJob, pixels(0, 400));
+    row("a byte short of its pixels", previewJob, pixels(9, 9, -1));
+    row("a byte more than its pixels", previewJob, pixels(9, 9, +1));
+    row("preview without its size", previewJob, { header(AnswerKind::Pixels, 3), "abc"_ba });
+    row("preview larger than any", previewJob, { header(AnswerKind::Pixels, 4 + 400 * 400 * 3 + 1) });
     row("metadata that is not UTF-8", extractJob,
         { header(AnswerKind::Picture, jpeg(9, 9).size(), 1), "\xE9" + jpeg(9, 9) });
     QTest::newRow("progress without end") << extractJob << QList<QByteArray>(10'001, bytesOf(AnswerProgress()));
