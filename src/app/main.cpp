@@ -22,8 +22,16 @@ int main(int argumentCount, char **arguments)
     chooseFonts();
 
     Application varlo(processEnvironment());
-    if (!varlo.show())
+    QQuickWindow *const window = varlo.show();
+    if (!window)
         return 1;
+    // For measurements: ends with the first frame that shows so many rows.
+    if (const int rows = qEnvironmentVariableIntValue("VARLO_QUIT_AT_ROWS"); rows > 0) {
+        QObject::connect(window, &QQuickWindow::frameSwapped, window, [&varlo, rows] {
+            if (varlo.batch().rowCount() >= rows)
+                QGuiApplication::quit();
+        });
+    }
     std::vector<std::filesystem::path> files;
     for (int index = 1; index < argumentCount; ++index) {
         if (std::string_view(arguments[index]) != "--")
