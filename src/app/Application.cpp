@@ -39,6 +39,7 @@ Application::Application(const Environment &environment)
     , m_templateChoices(
           m_templateStore, [this] { return resolvedLanguage(m_batch->filenameLanguageOption(), m_locale); })
     , m_historyView(m_renameLog, m_clock)
+    , m_quickLook(*m_batch, m_reader)
     , m_watchedFolder(m_preferences, m_folderAccess, m_watcher, *m_batch)
 {
 }
@@ -75,14 +76,20 @@ QQuickWindow *Application::show()
         { u"history"_s, QVariant::fromValue(&m_historyView) },
         { u"templates"_s, QVariant::fromValue(&m_templateChoices) }, { u"watcher"_s, QVariant::fromValue(&m_watcher) },
         { u"watchedFolder"_s, QVariant::fromValue(&m_watchedFolder) },
+        { u"quickLook"_s, QVariant::fromValue(&m_quickLook) },
         { u"folderPanel"_s, QVariant::fromValue(&m_folderPanel) }, { u"uiState"_s, QVariant::fromValue(&m_uiState) } });
     m_engine.load(QUrl(u"qrc:/qt/qml/Varlo/ContentView.qml"_s));
     if (m_engine.rootObjects().isEmpty())
         return nullptr;
     auto *window = qobject_cast<QQuickWindow *>(m_engine.rootObjects().constFirst());
-    // The first file then does not wait for the readers' process.
+    // After the first frame, which would wait for neither.
     QObject::connect(
-        window, &QQuickWindow::frameSwapped, window, [this] { m_reader.warmUp(); }, Qt::SingleShotConnection);
+        window, &QQuickWindow::frameSwapped, window,
+        [this] {
+            m_preferenceStore.observe(); // the terminal renames and changes settings too
+            m_reader.warmUp(); // the first file then does not wait for the readers' process
+        },
+        Qt::SingleShotConnection);
     window->show();
     m_watchedFolder.apply();
     return window;

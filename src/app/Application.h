@@ -16,6 +16,7 @@
 #include "suggestion/NameSuggestionService.h"
 #include "templates/TemplateChoices.h"
 #include "ui/AppUIState.h"
+#include "ui/QuickLook.h"
 #include "workflow/RenamerViewModel.h"
 #include "workflow/WatchedFolder.h"
 #include <memory>
@@ -59,6 +60,7 @@ private:
     std::unique_ptr<RenamerViewModel> m_batch;
     TemplateChoices m_templateChoices;
     HistoryView m_historyView;
+    QuickLook m_quickLook;
     FolderWatcher m_watcher;
     WatchedFolder m_watchedFolder;
     AppUIState m_uiState;

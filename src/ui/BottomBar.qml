@@ -12,6 +12,7 @@ Item {
     property bool isNarrow: false
     property bool isTight: false ///< no room for the total size
     signal addFilesRequested
+    signal renameAllRequested
 
     implicitHeight: Theme.text(64)
 
@@ -71,7 +72,7 @@ Item {
             spacing: bar.isNarrow ? 12 : 16
             Layout.leftMargin: bar.isNarrow ? 0 : 8
             Accessible.role: Accessible.StaticText
-            Accessible.name: [files.text, size.text, time.text].filter(text => text !== "").join(", ")
+            Accessible.name: Format.joined([files.text, size.text, time.text], ", ")
             Statistic {
                 id: files
                 iconName: "files"
@@ -113,7 +114,7 @@ Item {
             iconSize: 15
             text: qsTr("Rename All")
             enabled: bar.batch.renamableCount > 0 && !bar.batch.isRenaming
-            onClicked: bar.batch.renameEverything()
+            onClicked: bar.renameAllRequested()
         }
     }
 }

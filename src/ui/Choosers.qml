@@ -8,7 +8,7 @@ import Varlo
 Item {
     id: choosers
 
-    property RenamerViewModel batch: null
+    property RenamerViewModel batch
     property var folderPanel: null
     property var nameFilters: []
     function chooseFiles() { files.open(); }

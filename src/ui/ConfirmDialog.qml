@@ -9,6 +9,7 @@ Sheet {
     id: dialog
 
     property string message
+    property string iconName: "trash"
     property string confirmText
     signal confirmed
 
@@ -22,14 +23,25 @@ Sheet {
         spacing: 0
         Accessible.role: Accessible.Dialog
         Accessible.name: dialog.title
-        Label {
+        RowLayout {
             Layout.fillWidth: true
             Layout.margins: 24
             Layout.bottomMargin: 8
-            text: dialog.title
-            size: 17
-            font { family: Theme.displayFamily; weight: Font.DemiBold }
-            wrapMode: Text.Wrap
+            spacing: 14
+            Rectangle {
+                implicitWidth: 36
+                implicitHeight: 36
+                radius: 10
+                color: Theme.badTint
+                Icon { anchors.centerIn: parent; name: dialog.iconName; size: 20; color: Theme.bad }
+            }
+            Label {
+                Layout.fillWidth: true
+                text: dialog.title
+                size: 17
+                font { family: Theme.displayFamily; weight: Font.DemiBold }
+                wrapMode: Text.Wrap
+            }
         }
         Label {
             visible: text !== ""

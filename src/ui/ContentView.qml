@@ -15,6 +15,7 @@ Window {
     property var watcher: null
     property var watchedFolder: null
     property var folderPanel: null
+    property QuickLook quickLook: null
     required property AppUIState uiState
 
     readonly property bool isNarrow: width < 880 * Theme.textScale
@@ -42,7 +43,7 @@ Window {
     Command { sequence: "Ctrl+O"; onActivated: sheets.chooseFiles() }
     Command { sequence: "Ctrl+Shift+O"; onActivated: sheets.chooseFolder() }
     Command { sequences: ["Ctrl+Return", "Ctrl+Enter"]; onActivated: window.batch.suggest() }
-    Command { sequences: ["Ctrl+Shift+Return", "Ctrl+Shift+Enter"]; onActivated: window.batch.renameEverything() }
+    Command { sequences: ["Ctrl+Shift+Return", "Ctrl+Shift+Enter"]; onActivated: sheets.renameEverything() }
     Command { sequences: ["Ctrl+H", "Ctrl+Y"]; onActivated: window.uiState.showingHistory = true }
     Command { sequence: "Ctrl+R"; onActivated: if (content.list) content.list.renameCurrent() }
     Command {
@@ -58,8 +59,11 @@ Window {
     Command { sequence: "F6"; onActivated: window.goToRegion(1) }
     Command { sequence: "Shift+F6"; onActivated: window.goToRegion(-1) }
 
+    readonly property string historyError: history.lastError
+    onHistoryErrorChanged: if (historyError !== "") uiState.showingHistory = true // Ctrl+Z can fail too
+
     function goToRegion(by: int) {
-        const regions = [top, notices, panel, bottom].filter(item => item.visible && item.height > 0);
+        const regions = Array.from([top, notices, panel, bottom]).filter(item => item.visible && item.height > 0);
         let at = regions.findIndex(region => {
             for (let item = window.activeFocusItem; item; item = item.parent) {
                 if (item === region)
@@ -166,10 +170,25 @@ Window {
             Component {
                 id: listComponent
                 FileList {
+                    id: fileList
                     focus: true
                     batch: window.batch
                     statusLabels: window.uiState.statusLabels
                     isNarrow: window.isNarrow
+                    onQuickLookRequested: row => {
+                        if (window.quickLook)
+                            window.quickLook.open(row, Screen.devicePixelRatio);
+                    }
+                    Connections { // the keyboard goes on where the look ended
+                        id: looking
+                        property int latestRow: 0
+                        target: window.quickLook
+                        function onRowChanged() { looking.latestRow = window.quickLook.row; }
+                        function onIsOpenChanged() {
+                            if (!window.quickLook.isOpen && looking.latestRow < fileList.batch.count)
+                                fileList.goTo(looking.latestRow, false);
+                        }
+                    }
                 }
             }
             Loader {
@@ -187,6 +206,7 @@ Window {
             isNarrow: window.isNarrow
             isTight: window.width < 700 * Theme.textScale
             onAddFilesRequested: sheets.chooseFiles()
+            onRenameAllRequested: sheets.renameEverything()
         }
         Item { visible: window.isEmpty; Layout.preferredHeight: 16 }
     }

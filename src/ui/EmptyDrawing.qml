@@ -19,7 +19,7 @@ Item {
     component Drawing: Image {
         required property string name
         source: "image://icons/" + name
-        sourceSize: Qt.size(width * Screen.devicePixelRatio, height * Screen.devicePixelRatio)
+        sourceSize { width: width * Screen.devicePixelRatio; height: height * Screen.devicePixelRatio }
         antialiasing: true
         smooth: true
     }

@@ -12,26 +12,27 @@ FocusScope {
     required property var statusLabels ///< the words of every status: the longest makes the column
     property bool isNarrow: false
     readonly property alias currentIndex: view.currentIndex
-    readonly property var currentRow: view.currentItem
+    signal quickLookRequested(int row)
+    readonly property FileRow currentRow: view.currentItem as FileRow
 
     /// Goes on to the next row that has a name to review, or stays.
     function goOn(backwards: bool) {
         const next = batch.nextRowWithName(view.currentIndex, backwards);
-        if (next < 0)
-            view.forceActiveFocus(Qt.OtherFocusReason);
-        else
-            goTo(next, true);
+        goTo(next < 0 ? view.currentIndex : next, next >= 0);
     }
     function goTo(row: int, editing: bool) {
         view.currentIndex = row;
         view.positionViewAtIndex(row, ListView.Contain);
-        if (editing && view.currentItem && view.currentItem.hasNameField)
-            view.currentItem.editName();
-        else
-            view.forceActiveFocus(Qt.OtherFocusReason);
+        if (editing && currentRow && currentRow.hasNameField) {
+            currentRow.editName();
+            return;
+        }
+        if (currentRow)
+            currentRow.leaveName(); // else the list hands the keyboard on to the field
+        view.forceActiveFocus(Qt.OtherFocusReason);
     }
     function renameCurrent() {
-        if (view.currentItem && view.currentItem.canRename)
+        if (currentRow && currentRow.canRename)
             batch.renameRow(view.currentIndex);
     }
 
@@ -83,6 +84,10 @@ FocusScope {
             actionWidth: list.actionWidth
             onNameEdited: name => list.batch.setSuggestedName(index, name)
             onRenameRequested: list.batch.renameRow(index)
+            onQuickLookRequested: {
+                view.currentIndex = index;
+                list.quickLookRequested(index);
+            }
             onEntered: view.currentIndex = index
             onAccepted: backwards => list.goOn(backwards)
             onEscaped: list.goTo(index, false)
@@ -103,6 +108,10 @@ FocusScope {
                     && event.modifiers === Qt.NoModifier)) {
                 event.accepted = true;
                 list.goTo(currentIndex, true);
+            } else if (event.key === Qt.Key_Space && searched === "") { // within a search it is one more letter
+                event.accepted = true;
+                if (currentIndex >= 0)
+                    list.quickLookRequested(currentIndex);
             } else if (event.text.length === 1 && event.text >= " " && event.modifiers === Qt.NoModifier) {
                 event.accepted = true;
                 searched += event.text;

@@ -27,16 +27,19 @@ FocusScope {
     property bool isAnimated: false
     property real statusWidth: 146
     property real actionWidth: 84
-    readonly property bool isEditing: nameLoader.item ? nameLoader.item.isEditing : false
-    readonly property bool canUndoTyping: isEditing && nameLoader.item.canUndoTyping
+    readonly property NameField nameField: nameLoader.item as NameField
+    readonly property bool isEditing: nameField !== null && nameField.isEditing
+    readonly property bool canUndoTyping: isEditing && nameField.canUndoTyping
     signal nameEdited(string name)
     signal renameRequested
+    signal quickLookRequested
     signal entered ///< the keyboard has come into it
     signal accepted(bool backwards)
     signal escaped
     signal stepped(int by)
-    function editName() { if (nameLoader.item) nameLoader.item.edit(); }
-    function undoTyping() { nameLoader.item.undoTyping(); }
+    function editName() { if (nameField) nameField.edit(); }
+    function leaveName() { if (nameField) nameField.leave(); }
+    function undoTyping() { nameField.undoTyping(); }
 
     readonly property bool isWorking: status === "processing"
     readonly property bool showsField: hasNameField || isWorking
@@ -46,14 +49,15 @@ FocusScope {
 
     height: Theme.text(isNarrow ? 100 : 60)
     onActiveFocusChanged: if (activeFocus) entered()
-    onStatusChanged: if (status === "suggested" && nameLoader.item) nameLoader.item.reveal()
+    onStatusChanged: if (status === "suggested" && nameField) nameField.reveal()
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: [fileName, statusLabel, suggestedName === "" ? "" : suggestedName + extension].concat(suggestedTags)
-        .filter(text => text !== "").join(", ")
+    Accessible.name: Format.joined([fileName, statusLabel, suggestedName === "" ? "" : suggestedName + extension,
+        Format.joined(suggestedTags, ", ")], ", ")
     Accessible.description: message
     Accessible.focusable: true
     Accessible.focused: isCurrent
+    Accessible.onPressAction: quickLookRequested()
 
     Rectangle {
         visible: rowHover.hovered
@@ -78,6 +82,7 @@ FocusScope {
         radius: 10
         color: kind.tint
         Icon { anchors.centerIn: parent; name: parent.kind.icon; size: 20; color: parent.kind.ink }
+        TapHandler { onTapped: row.quickLookRequested() }
     }
 
     Label {
@@ -87,7 +92,7 @@ FocusScope {
             : (row.height - height - detail.height - (row.isFailed ? 0 : 1)) / 2
         width: Math.min(implicitWidth, row.isNarrow ? row.width - 66 - 14 - 10 - pill.width : row.namesWidth)
         height: Theme.text(20)
-        text: row.fileName
+        text: Format.isolated(row.fileName)
         font.weight: Font.Medium
         elide: Text.ElideMiddle
         color: row.status === "notSupportedYet" ? Theme.ink2 : Theme.ink
@@ -129,8 +134,8 @@ FocusScope {
             visible: !row.isFailed && (row.previousName !== "" || row.suggestedTags.length === 0)
             anchors.verticalCenter: parent.verticalCenter
             width: parent.width
-            text: row.previousName !== "" ? qsTr("was") + " " + row.previousName
-                : row.folderName + " · " + Format.bytes(row.byteSize)
+            text: row.previousName !== "" ? qsTr("was") + " " + Format.isolated(row.previousName)
+                : Format.place(row.folderName, row.byteSize)
             size: 12
             color: Theme.ink3
             elide: Text.ElideMiddle

@@ -11,7 +11,19 @@ QtObject {
         const digits = count < 1e6 ? 0 : 1;
         return Qt.locale(locale).formattedDataSize(count, digits, Locale.DataSizeSIFormat);
     }
+    /// A name between marks (Unicode's UAX #9) that keep its extension at its right end and its direction of writing
+    /// from turning what stands beside it.
+    function isolated(name: string): string {
+        return String.fromCharCode(0x2066) + name + String.fromCharCode(0x2069);
+    }
+    /// What there is of it, with the separator between.
+    function joined(texts: var, separator: string): string {
+        return texts.filter(text => text !== "").join(separator);
+    }
+    function place(folderName: string, byteSize: real): string {
+        return isolated(folderName) + " · " + bytes(byteSize);
+    }
     function seconds(value: real): string {
-        return value.toFixed(1) + "s";
+        return Qt.locale("C").toString(value, "f", 1) + "s";
     }
 }

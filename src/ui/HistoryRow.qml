@@ -45,7 +45,7 @@ Rectangle {
             spacing: 0
             Label {
                 Layout.fillWidth: true
-                text: row.toName
+                text: Format.isolated(row.toName)
                 font { weight: Font.Medium; strikeout: row.isReverted }
                 color: row.isReverted ? Theme.ink3 : Theme.ink
                 elide: Text.ElideMiddle
@@ -53,7 +53,7 @@ Rectangle {
             }
             Label {
                 Layout.fillWidth: true
-                text: qsTr("was") + " " + row.fromName
+                text: qsTr("was") + " " + Format.isolated(row.fromName)
                 size: 12
                 color: Theme.ink3
                 elide: Text.ElideMiddle

@@ -197,7 +197,7 @@ Sheet {
     Loader {
         id: confirmation
         active: false
-        onLoaded: item.open()
+        onLoaded: (item as Sheet).open()
         sourceComponent: ConfirmDialog {
             title: qsTr("Clear History…")
             confirmText: qsTr("Clear")

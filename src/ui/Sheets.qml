@@ -10,25 +10,43 @@ Item {
     required property var contentView
     readonly property var uiState: contentView.uiState
     readonly property bool hasOpenSheet: history.isShown || formats.isShown || deletion.isShown
-    function chooseFiles() { choosers.source = "Choosers.qml"; choosers.item.chooseFiles(); }
-    function chooseFolder() { choosers.source = "Choosers.qml"; choosers.item.chooseFolder(); }
+        || quickLook.isShown || forgetting.isShown
+    function chooseFiles() { loadedChoosers().chooseFiles(); }
+    function chooseFolder() { loadedChoosers().chooseFolder(); }
+    function loadedChoosers(): var {
+        choosers.source = "Choosers.qml";
+        return choosers.item;
+    }
     function confirmTemplateDeletion(id: string) {
         deletion.templateId = id;
         deletion.active = true;
     }
 
+    /// Asks first where the history could not hold it all.
+    function renameEverything() {
+        if (contentView.batch.forgottenCount > 0)
+            forgetting.active = true;
+        else
+            contentView.batch.renameEverything();
+    }
+
     component OnDemand: Loader {
         id: onDemand
+        property string file ///< of the sheet; not even read before it is wanted
+        property var given: ({}) ///< its properties
         property bool isWanted: false
-        readonly property bool isShown: item !== null && item.visible
+        readonly property bool isShown: sheet !== null && sheet.visible
+        readonly property Sheet sheet: item as Sheet
         signal dismissed
         active: false
         onIsWantedChanged: {
             if (isWanted) {
+                if (file !== "" && !sheet)
+                    setSource(file, given);
                 active = true;
-                item.open();
-            } else if (item) {
-                item.close();
+                sheet.open();
+            } else if (sheet) {
+                sheet.close();
             }
         }
         Connections {
@@ -45,20 +63,30 @@ Item {
             active = false; // the next time it starts without search, selection and error
             sheets.contentView.history.reset();
         }
-        sourceComponent: HistorySheet { history: sheets.contentView.history }
+        file: "HistorySheet.qml"
+        given: ({ history: sheets.contentView.history })
     }
     OnDemand {
         id: formats
         isWanted: sheets.uiState.showingFormats
         onDismissed: sheets.uiState.showingFormats = false
-        sourceComponent: FormatsSheet { sections: sheets.uiState.formatSections }
+        file: "FormatsSheet.qml"
+        given: ({ sections: sheets.uiState.formatSections })
+    }
+    OnDemand {
+        id: quickLook
+        isWanted: sheets.contentView.quickLook?.isOpen ?? false
+        onDismissed: sheets.contentView.quickLook.close()
+        file: "QuickLookSheet.qml"
+        given: ({ look: sheets.contentView.quickLook })
     }
     Loader {
         id: deletion
         property string templateId
-        readonly property bool isShown: item !== null && item.visible
+        readonly property bool isShown: sheet !== null && sheet.visible
+        readonly property Sheet sheet: item as Sheet
         active: false
-        onLoaded: item.open()
+        onLoaded: sheet.open()
         sourceComponent: ConfirmDialog {
             title: qsTr("Delete Template…")
             confirmText: qsTr("Delete")
@@ -66,11 +94,26 @@ Item {
             onClosed: deletion.active = false
         }
     }
+    Loader {
+        id: forgetting
+        readonly property bool isShown: sheet !== null && sheet.visible
+        readonly property Sheet sheet: item as Sheet
+        active: false
+        onLoaded: sheet.open()
+        sourceComponent: ConfirmDialog {
+            title: qsTr("Rename All")
+            iconName: "history"
+            message: qsTr("The history keeps the newest %1 renames, so the first %2 of these cannot be taken back later.")
+                .arg(sheets.contentView.batch.keptCount).arg(sheets.contentView.batch.forgottenCount)
+            confirmText: qsTr("Rename All")
+            onConfirmed: sheets.contentView.batch.renameEverything()
+            onClosed: forgetting.active = false
+        }
+    }
     Connections {
         target: sheets.contentView.folderPanel
         function onAsked(folder) {
-            choosers.source = "Choosers.qml";
-            choosers.item.askForFolder(folder);
+            sheets.loadedChoosers().askForFolder(folder);
         }
     }
     Loader {

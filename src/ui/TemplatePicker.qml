@@ -15,7 +15,8 @@ OptionPicker {
     caption: qsTr("Choose template")
     chevron: "chevron-down"
     popoverWidth: 344
-    options: [{ id: "", name: qsTr("Default"), detail: qsTr("The AI picks the name structure") }].concat(templates)
+    options: Array.from([{ id: "", name: qsTr("Default"), detail: qsTr("The AI picks the name structure") }])
+        .concat(templates)
     Accessible.name: qsTr("Choose template")
 
     popoverFooter: Rectangle {
@@ -58,7 +59,7 @@ OptionPicker {
                 text: preview.shown ? preview.shown.example
                     : qsTr("No fixed template — the AI picks the best name structure for each file.")
                 size: 12
-                font.family: preview.shown ? Theme.codeFamily : Qt.application.font.family
+                font.family: preview.shown ? Theme.codeFamily : Theme.family
                 font.weight: preview.shown ? Font.Medium : Font.Normal
                 color: preview.shown ? Theme.ink : Theme.ink3
                 wrapMode: Text.Wrap

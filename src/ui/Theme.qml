@@ -47,6 +47,7 @@ QtObject {
             "doc": { ink: "#5C574F", tint: "#ECE8E1", icon: "file" }
         })
 
+    readonly property string family: "Inter"
     readonly property string displayFamily: "Inter Display"
     readonly property string codeFamily: "JetBrains Mono"
     /// What the desktop's text size multiplies every height of text with.

@@ -16,7 +16,7 @@ Rectangle {
     radius: 11
     color: Theme.fill
     Accessible.role: Accessible.Grouping
-    Accessible.name: [folderName, qsTr("is being watched"), state.text].join(" ")
+    Accessible.name: Format.joined([folderName, qsTr("is being watched"), state.text], " ")
 
     RowLayout {
         anchors { fill: parent; leftMargin: 13; rightMargin: 5 }

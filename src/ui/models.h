@@ -5,6 +5,7 @@
 #include "history/HistoryView.h"
 #include "templates/TemplateChoices.h"
 #include "ui/AppUIState.h"
+#include "ui/QuickLook.h"
 #include "workflow/RenamerViewModel.h"
 #include <QtQml/qqml.h>
 
@@ -27,6 +28,12 @@ struct ForeignTemplateChoices {
     Q_GADGET
     QML_FOREIGN(Varlo::TemplateChoices)
     QML_NAMED_ELEMENT(TemplateChoices)
+    QML_UNCREATABLE("made at start-up")
+};
+struct ForeignQuickLook {
+    Q_GADGET
+    QML_FOREIGN(Varlo::QuickLook)
+    QML_NAMED_ELEMENT(QuickLook)
     QML_UNCREATABLE("made at start-up")
 };
 struct ForeignAppUIState {

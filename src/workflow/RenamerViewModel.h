@@ -3,6 +3,7 @@
 #pragma once
 
 #include "extraction/ContentReader.h"
+#include "history/applyHistoryChanges.h"
 #include "history/RenameLog.h"
 #include "platform/AutomationHost.h"
 #include "platform/SystemLocale.h"
@@ -14,6 +15,7 @@
 #include "workflow/FileItem.h"
 #include "workflow/FolderWalk.h"
 #include "workflow/TurnQueue.h"
+#include <algorithm>
 #include <memory>
 #include <optional>
 #include <QAbstractListModel>
@@ -36,6 +38,8 @@ class RenamerViewModel final : public QAbstractListModel {
     Q_PROPERTY(double totalBytes READ totalBytes NOTIFY countsChanged)
     Q_PROPERTY(bool hasPending READ hasPending NOTIFY countsChanged)
     Q_PROPERTY(int renamableCount READ renamableCount NOTIFY countsChanged)
+    Q_PROPERTY(int keptCount READ keptCount CONSTANT)
+    Q_PROPERTY(int forgottenCount READ forgottenCount NOTIFY countsChanged)
     Q_PROPERTY(int renameDoneCount READ renameDoneCount NOTIFY renameProgressChanged)
     Q_PROPERTY(int renameTotalCount READ renameTotalCount NOTIFY renameProgressChanged)
     Q_PROPERTY(bool isKeyMissing READ isKeyMissing NOTIFY countsChanged)
@@ -47,7 +51,8 @@ public:
     enum class DropFeedback { NothingRenameable };
     enum Role {
         IdRole = Qt::UserRole + 1,
-        PathRole, ///< for showing
+        // What is shown has every character written out that would act on the text around it.
+        PathRole,
         FileNameRole,
         ExtensionRole, ///< with its dot, as it will stand behind the new name; "" for none
         FolderNameRole, ///< of the folder that the file is in
@@ -105,6 +110,9 @@ public:
     [[nodiscard]] qint64 totalBytes() const { return m_totalBytes; }
     [[nodiscard]] bool hasPending() const { return m_pendingCount > 0; }
     [[nodiscard]] int renamableCount() const { return m_renamableCount; }
+    /// How many renames the log keeps, and how many of those that "Rename All" would make it could not.
+    [[nodiscard]] static int keptCount() { return static_cast<int>(maximumLogEntries); }
+    [[nodiscard]] int forgottenCount() const { return std::max(0, m_renamableCount - keptCount()); }
     /// Of the rename action under way, or of the latest: the files it has come to, and all of them.
     [[nodiscard]] int renameDoneCount() const { return m_renameDoneCount; }
     [[nodiscard]] int renameTotalCount() const { return m_renameTotalCount; }

@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Renders every screen of the window to pictures, with the same files and the same day each time:
 //     varlo-shots FOLDER [WORD...]
-// writes those screens whose names contain one of the words, or all.
+// writes those screens whose names contain one of the words, or all. Fails where a screen has Qt warn of anything, and
+// where some text in it would be taken for markup.
 #include "fakes/FakeClock.h"
+#include "fakes/FakePreviewReader.h"
 #include "history/HistoryView.h"
 #include "platform/pathExtension.h"
 #include "platform/shownPath.h"
@@ -11,6 +13,7 @@
 #include "ui/AppUIState.h"
 #include "ui/chooseFonts.h"
 #include "ui/IconProvider.h"
+#include "ui/QuickLook.h"
 #include "workflow/TestBatch.h"
 #include <filesystem>
 #include <functional>
@@ -75,9 +78,9 @@ public:
         engine.addImportPath(u"qrc:/qt/qml"_s);
         engine.addImageProvider(u"icons"_s, new IconProvider);
         clock.time = QDateTime(QDate(2026, 3, 14), QTime(15, 9, 26));
-        engine.setInitialProperties(
-            { { u"batch"_s, QVariant::fromValue(&batch) }, { u"history"_s, QVariant::fromValue(&history) },
-                { u"templates"_s, QVariant::fromValue(&choices) }, { u"uiState"_s, QVariant::fromValue(&uiState) } });
+        engine.setInitialProperties({ { u"batch"_s, QVariant::fromValue(&batch) },
+            { u"history"_s, QVariant::fromValue(&history) }, { u"templates"_s, QVariant::fromValue(&choices) },
+            { u"quickLook"_s, QVariant::fromValue(&quickLook) }, { u"uiState"_s, QVariant::fromValue(&uiState) } });
         engine.load(QUrl(u"qrc:/qt/qml/Varlo/ContentView.qml"_s));
         if (engine.rootObjects().isEmpty())
             qFatal("the window cannot be made");
@@ -127,6 +130,8 @@ public:
         reader, suggester, templates, log, renamer, access, nullptr, preferences, locale } };
     TemplateChoices choices { templates, [] { return FilenameLanguage::English; } };
     HistoryView history { log, clock };
+    FakePreviewReader previews;
+    QuickLook quickLook { batch, previews };
     AppUIState uiState;
     QQmlApplicationEngine engine;
     QQuickWindow *window = nullptr;
@@ -273,6 +278,38 @@ static const std::map<QString, std::function<void(Stage &)>> &screens()
                 QCoro::waitFor(stage.batch.suggestAll());
                 openPicker(stage, "TemplatePicker");
             } },
+        { u"main-hostile"_s,
+            [](Stage &stage) {
+                stage.add({ { "<i>folder", "<b>x.txt", 10, "<u>name</u>", { u"<s>tag</s>"_s } },
+                    { "a\nb", "<img src='x'>.txt", 10, "", {} }, { "c", "annex\u202etxt.pdf", 10, "x\u202ey", {} },
+                    { "d", "\u05e9\u05dc\u05d5\u05dd (2).pdf", 10, "\u05e9\u05dc\u05d5\u05dd", {} } });
+                stage.suggester.errors[u"annex\u202etxt"_s] = ApiError { u"<a href='x'>no</a>\n"_s.repeated(9) };
+                QCoro::waitFor(stage.batch.suggestAll());
+            } },
+        { u"quicklook-picture"_s,
+            [](Stage &stage) {
+                fillForReview(stage);
+                constexpr int side = 40;
+                QByteArray pixels;
+                for (int pixel = 0; pixel < 30 * side; ++pixel)
+                    pixels.append(char(pixel % side * 6)).append(char(pixel / side * 8)).append(char(0x80));
+                stage.previews.previews.insert_or_assign("IMG_4032.HEIC", PicturePreview { { side, 30 }, pixels });
+                stage.quickLook.open(1, 1);
+            } },
+        { u"quicklook-text"_s,
+            [](Stage &stage) {
+                fillForReview(stage);
+                stage.previews.previews.insert_or_assign(
+                    "export_20250401.csv", TextPreview { u"2025-04-01;<b>Bank</b>;12.50\n"_s.repeated(60) });
+                stage.quickLook.open(7, 1);
+            } },
+        { u"quicklook-message"_s,
+            [](Stage &stage) {
+                fillForReview(stage);
+                stage.previews.previews.insert_or_assign(
+                    "scan_0041.pdf", Unreadable { u"This file could not be read safely."_s });
+                stage.quickLook.open(0, 1);
+            } },
         { u"formats"_s, [](Stage &stage) { stage.uiState.setProperty("showingFormats", true); } },
         { u"history"_s,
             [](Stage &stage) {
@@ -302,8 +339,26 @@ static const std::map<QString, std::function<void(Stage &)>> &screens()
     return all;
 }
 
+static int complaints = 0;
+
+static void complain(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    complaints += type == QtDebugMsg || type == QtInfoMsg ? 0 : 1;
+    std::fprintf(stderr, "%s\n", qUtf8Printable(message));
+}
+
+/// Names come from strangers: none may be markup wherever it turns up.
+static void checkThatTextsArePlain(const QQuickItem *item)
+{
+    if (item->inherits("QQuickText") && item->property("textFormat").toInt() != Qt::PlainText)
+        qWarning() << "may be markup:" << item->property("text");
+    for (const QQuickItem *child : item->childItems())
+        checkThatTextsArePlain(child);
+}
+
 int main(int argumentCount, char **arguments)
 {
+    qInstallMessageHandler(complain);
     qputenv("VARLO_NO_ANIMATIONS", "1");
     qputenv("QT_QUICK_BACKEND", "software");
     QGuiApplication application(argumentCount, arguments);
@@ -321,8 +376,9 @@ int main(int argumentCount, char **arguments)
         stage.window->show();
         setUp(stage);
         QTest::qWait(300);
+        checkThatTextsArePlain(stage.window->contentItem());
         stage.grab(folder.filePath(name + u".png"_s));
         stage.batch.clear();
     }
-    std::_Exit(0); // the run that is held never ends
+    std::_Exit(complaints > 0 ? 1 : 0); // the run that is held never ends
 }

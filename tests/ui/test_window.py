@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """Uses the real window by mouse, by keyboard and by assistive technology, beside a Messages server on loopback.
 
-usage: test_window.py WINDOW FAKE_SERVER DRAG_SOURCE [unittest argument...]
+usage: test_window.py WINDOW VARLO FAKE_SERVER DRAG_SOURCE [unittest argument...]
 
 Wants an X server and a session bus of its own (xvfb-run, dbus-run-session).
 """
@@ -21,7 +21,7 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402
 
-WINDOW, FAKE_SERVER, DRAG_SOURCE = map(os.path.abspath, sys.argv[1:4])
+WINDOW, VARLO, FAKE_SERVER, DRAG_SOURCE = map(os.path.abspath, sys.argv[1:5])
 PATIENCE = 30  # seconds that anything may take on a busy machine
 CONTROLS = {"push button", "check box", "radio button", "combo box", "text", "entry", "page tab", "toggle button"}
 
@@ -49,7 +49,10 @@ def below(node):
     node.clear_cache()  # not every appearance is announced
     for index in range(node.get_child_count()):
         child = node.get_child_at_index(index)
-        if child is not None and is_showing(child):
+        if child is None:
+            continue
+        child.clear_cache()
+        if is_showing(child):
             yield child
             yield from below(child)
 
@@ -66,10 +69,13 @@ class WindowTest(unittest.TestCase):
         self.addCleanup(self.stderr.close)
         self.window = None
 
+    def stop(self):
+        self.window.send_signal(signal.SIGTERM)
+        self.window.wait(PATIENCE)
+
     def tearDown(self):
         if self.window:
-            self.window.send_signal(signal.SIGTERM)
-            self.window.wait(PATIENCE)
+            self.stop()
         self.stderr.seek(0)
         self.assertEqual(self.stderr.read(), "")
 
@@ -79,18 +85,23 @@ class WindowTest(unittest.TestCase):
         return str(path)
 
     def start(self, *files, server=(), key="sk-test-3f9a77"):
-        model = subprocess.Popen([FAKE_SERVER, *server], stdout=subprocess.PIPE, text=True)
+        self.model = model = subprocess.Popen([FAKE_SERVER, *server], stdout=subprocess.PIPE, text=True)
         self.addCleanup(model.stdout.close)
         self.addCleanup(model.wait)
         self.addCleanup(model.kill)
-        environment = os.environ | {
+        self.environment = os.environ | {
             "HOME": str(self.home), "XDG_CONFIG_HOME": str(self.home / "config"),
             "XDG_DATA_HOME": str(self.home / "data"), "XDG_STATE_HOME": str(self.home / "state"),
             "VARLO_ENDPOINT": model.stdout.readline().strip(), "VARLO_API_KEY": key, "LC_ALL": "C.UTF-8",
             "QT_QPA_PLATFORM": "xcb", "QT_QUICK_BACKEND": "software", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
             "VARLO_NO_ANIMATIONS": "1"}
-        self.window = subprocess.Popen([WINDOW, *files], env=environment, stderr=self.stderr)
+        self.window = subprocess.Popen([WINDOW, *files], env=self.environment, stderr=self.stderr)
         self.frame = until(self.find_frame, "the window")
+
+    def terminal(self, *arguments):
+        """Varlo's other program, at the same time, for the same user."""
+        environment = self.environment | {"QT_QPA_PLATFORM": "", "DBUS_SESSION_BUS_ADDRESS": ""}
+        subprocess.run([VARLO, *arguments], env=environment, stdin=subprocess.DEVNULL, capture_output=True, check=True)
 
     def find_frame(self):
         desktop = Atspi.get_desktop(0)
@@ -126,9 +137,10 @@ class WindowTest(unittest.TestCase):
     def type(self, text):
         subprocess.run(["xdotool", "type", text], check=True)
 
-    def click(self, node):
+    def click(self, node, at=None):
         place = node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
-        subprocess.run(["xdotool", "mousemove", str(place.x + place.width // 2), str(place.y + place.height // 2),
+        x = place.width // 2 if at is None else at
+        subprocess.run(["xdotool", "mousemove", str(place.x + x), str(place.y + place.height // 2),
                         "click", "1"], check=True)
 
     def names(self):
@@ -146,7 +158,10 @@ class WindowTest(unittest.TestCase):
     def test_mouse_alone_drops_suggests_renames_and_takes_back(self):
         self.start(server=["--reply", "2025-03-01 - Acme - Invoice"])
         self.find("Drop your files here. Varlo reads your files and suggests a new name based on their contents")
-        source = subprocess.Popen([DRAG_SOURCE, self.write("scan.txt")], env=os.environ | {"QT_QPA_PLATFORM": "xcb"})
+        folder = self.files / "folder"
+        folder.mkdir()
+        (folder / "inner.txt").touch()
+        source = subprocess.Popen([DRAG_SOURCE, self.write("scan.txt"), str(folder)], env=os.environ | {"QT_QPA_PLATFORM": "xcb"})
         self.addCleanup(source.wait)
         self.addCleanup(source.kill)
         until(lambda: subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(source.pid)],
@@ -156,14 +171,15 @@ class WindowTest(unittest.TestCase):
             subprocess.run(["xdotool", "mousemove", str(x), "300", "sleep", "0.1"], check=True)
         subprocess.run(["xdotool", "mouseup", "1"], check=True)
         self.wait_for_row("scan.txt", "Pending")
+        self.wait_for_row("inner.txt", "Pending")
         self.click(self.find("Suggest Names", "push button"))
         self.wait_for_row("scan.txt", "Suggested", "2025-03-01 - Acme - Invoice.txt")
         self.click(self.find("Rename", "push button"))
-        self.wait_for_names("2025-03-01 - Acme - Invoice.txt")
+        self.wait_for_names("2025-03-01 - Acme - Invoice.txt", "folder")
         self.wait_for_row("2025-03-01 - Acme - Invoice.txt", "Renamed")
         self.click(self.find("History", "push button"))
         self.click(self.find("Revert", "push button"))
-        self.wait_for_names("scan.txt")
+        self.wait_for_names("scan.txt", "folder")
         self.find("Reverted")
         self.wait_for_row("scan.txt", "Pending")
 
@@ -174,19 +190,25 @@ class WindowTest(unittest.TestCase):
         self.keys("ctrl+Return")
         self.wait_for_row("b.txt", "Suggested")
         self.keys("F6", "F6", "F6", "Home")  # round by the bottom and the top bar to the list again
-        until(lambda: self.focused_name().startswith("a.txt"), "the first row")
+        self.wait_for_focus("a.txt")
         self.keys("F2")
         self.type("First")
         self.keys("Return")  # accepts and goes on
         self.type("Second")
         self.keys("Escape")  # the name as it was
         self.wait_for_row("b.txt", "Offered.txt")
+        self.keys("shift+Return")  # back to the first, all of it selected
+        self.type("First one")
+        self.wait_for_row("a.txt", "First one.txt")
+        self.keys("Down")  # the same place in the row below
+        self.wait_for_focus("Suggested name")
+        self.keys("ctrl+a")
         self.type("Second one")
         self.keys("ctrl+shift+Return")
-        self.wait_for_names("First.txt", "Second one.txt")
+        self.wait_for_names("First one.txt", "Second one.txt")
         self.wait_for_row("Second one.txt", "Renamed")
         self.keys("ctrl+z")
-        self.wait_for_names("First.txt", "b.txt")
+        self.wait_for_names("First one.txt", "b.txt")
         self.keys("ctrl+h")
         self.find("Search history")
         self.type("FIRST")
@@ -201,10 +223,67 @@ class WindowTest(unittest.TestCase):
         rows = [node for node in below(self.frame) if node.get_state_set().contains(Atspi.StateType.FOCUSED)]
         return rows[-1].get_name() if rows else ""
 
+    def wait_for_focus(self, start):
+        until(lambda: self.focused_name().startswith(start), "the focus on " + start)
+
+    def test_keyboard_looks_quickly(self):
+        self.start(self.write("a.txt", "The first file's\n lines."), self.write("b.txt", "Another file's lines."),
+                   server=["--reply", "Offered"])
+        self.focus()
+        self.wait_for_row("b.txt", "Pending")
+        self.keys("Home", "space")
+        self.find("a.txt", "dialog")
+        self.find("The first file's\n lines.")
+        self.keys("Down")
+        self.find("b.txt", "dialog")
+        self.find("Another file's lines.")
+        self.keys("space")
+        until(lambda: not self.nodes("b.txt", "dialog"), "a closed look")
+        self.wait_for_focus("b.txt")  # where the look ended
+        self.keys("ctrl+Return")
+        self.wait_for_row("b.txt", "Suggested")
+        self.keys("F2")
+        self.wait_for_focus("Suggested name")
+        self.type("two words")
+        self.wait_for_row("b.txt", "two words.txt")
+        self.keys("Escape", "Escape")
+        self.keys("space")
+        self.find("Offered.txt")
+        self.keys("Escape")
+        until(lambda: not self.nodes("b.txt", "dialog"), "a closed look")
+        row = until(lambda: [node for node in below(self.frame) if node.get_role_name() == "list item"
+                             and node.get_name().startswith("b.txt")], "the row")[0]
+        self.click(row, at=35)
+        self.find("b.txt", "dialog")
+        self.press("Close")
+        until(lambda: not self.nodes("b.txt", "dialog"), "a closed look")
+
+    def test_history_follows_the_terminal(self):
+        self.start(self.write("a.txt"), self.write("b.txt"), self.write("c.txt"), server=["--reply", "Offered"])
+        self.wait_for_row("c.txt", "Pending")
+        self.press("History")
+        self.find("No renames yet")
+        self.terminal("rename", "--yes", str(self.files / "a.txt"), str(self.files / "b.txt"), str(self.files / "c.txt"))
+        for name in ("Offered.txt", "Offered 2.txt", "Offered 3.txt"):
+            self.wait_for_row(name, "was")
+        self.terminal("undo", "--last", "1")
+        self.wait_for_row("Offered 3.txt", "Reverted")
+        (self.files / "Offered.txt").unlink()
+        for name in ("Offered.txt", "Offered 2.txt"):
+            self.find(name, "check box").get_action_iface().do_action(0)
+        self.find("2 selected")
+        self.press("Revert Selected")
+        self.find("The file could not be found at its renamed location.", "alert")
+        self.wait_for_names("b.txt", "c.txt")
+        self.assertFalse(self.nodes("Revert Selected"))
+
     def test_assistive_technology_can_do_everything(self):
         self.start(self.write("one.txt"), self.write("two.txt"), server=["--reply", "Offered"])
         self.wait_for_row("two.txt", "Pending")
         self.check_names_of_controls()
+        self.find("Filename language").get_action_iface().do_action(0)
+        self.find("Nederlands").get_action_iface().do_action(0)
+        until(lambda: self.find("Filename language").get_description() == "Nederlands", "the choice")
         self.press("Suggest Names")
         self.wait_for_row("two.txt", "Suggested")
         self.check_names_of_controls()
@@ -228,13 +307,42 @@ class WindowTest(unittest.TestCase):
                    if node.get_role_name() in CONTROLS and not node.get_name()]
         self.assertEqual(unnamed, [])
 
-    def test_each_status_has_its_look(self):
+    def test_failures_say_why(self):
         self.start(self.write("empty.txt", ""), self.write("a.txt"), server=["--status", "500"])
         self.wait_for_row("empty.txt", "Pending")
         self.press("Suggest Names")
         self.wait_for_row("empty.txt", "No text found")
         self.wait_for_row("a.txt", "Failed")
         self.assertTrue([node for node in below(self.frame) if node.get_description() == "HTTP 500"])
+
+    def test_a_file_goes_from_status_to_status(self):
+        self.start(self.write("a.txt"), server=["--reply", "Offered", "--delay", "3600000"])
+        self.wait_for_row("a.txt", "Pending")
+        self.press("Suggest Names")
+        self.wait_for_row("a.txt", "Analyzing…")
+        self.model.kill()
+        self.wait_for_row("a.txt", "Failed")
+        self.stop()
+        self.start(str(self.files / "a.txt"), server=["--reply", "Offered"])
+        self.press("Suggest Names")
+        self.wait_for_row("a.txt", "Suggested", "Offered.txt")
+        self.press("Rename")
+        self.wait_for_row("Offered.txt", "Renamed")
+        self.stop()
+        self.start(str(self.files / "Offered.txt"))
+        self.wait_for_row("Offered.txt", "Already renamed")
+
+    def test_names_are_text_and_nothing_else(self):
+        names = ["<b>x.txt", "<img src='x'>.txt", "annex\u202etxt.txt", "two\nlines.txt"]
+        self.start(*map(self.write, names), server=["--reply", "a\u202eb", "--delay", "0"])
+        for shown in (names[0], names[1], "annex\\u202etxt.txt", "two\\nlines.txt"):
+            self.wait_for_row(shown, "Pending")
+        self.press("Suggest Names")
+        self.wait_for_row(names[0], "Suggested", "ab.txt")
+        self.press("Rename All")
+        self.wait_for_names("ab.txt", "ab 2.txt", "ab 3.txt", "ab 4.txt")
+        self.press("History")
+        self.wait_for_row("ab 4.txt", "was two\\nlines.txt")
 
     def test_missing_key_and_nothing_to_name_are_told(self):
         self.start(self.write("film.mp4"), key="")
@@ -247,4 +355,4 @@ class WindowTest(unittest.TestCase):
 
 
 if __name__ == "__main__":
-    unittest.main(argv=[sys.argv[0], *sys.argv[4:]])
+    unittest.main(argv=[sys.argv[0], *sys.argv[5:]])

@@ -31,7 +31,7 @@ T.Button {
     opacity: enabled ? 1 : .42
     focusPolicy: Qt.StrongFocus
     hoverEnabled: true
-    font.family: Qt.application.font.family
+    font.family: Theme.family
     font.pixelSize: Theme.text(textSize)
     font.weight: isFilled ? Font.DemiBold : Font.Medium
 

@@ -16,7 +16,7 @@ T.TextField {
     leftPadding: iconName === "" ? 10 : 34
     rightPadding: 10
     verticalAlignment: TextInput.AlignVCenter
-    font.family: Qt.application.font.family
+    font.family: Theme.family
     font.pixelSize: Theme.text(14)
     color: Theme.ink
     selectionColor: Theme.accentTint2

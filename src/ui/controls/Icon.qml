@@ -15,6 +15,6 @@ Image {
     width: size
     height: size
     source: name === "" ? "" : "image://icons/" + name + "/" + color.toString().slice(1)
-    sourceSize: Qt.size(size * Screen.devicePixelRatio, size * Screen.devicePixelRatio)
+    sourceSize { width: size * Screen.devicePixelRatio; height: size * Screen.devicePixelRatio }
     Accessible.ignored: true
 }

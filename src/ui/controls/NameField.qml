@@ -24,6 +24,8 @@ FocusScope {
         input.forceActiveFocus(Qt.TabFocusReason);
         input.selectAll();
     }
+    /// The keyboard's row then is the field's, and no longer the field.
+    function leave() { input.focus = false; }
     /// Uncovers the name from left to right.
     function reveal() {
         if (isAnimated && Theme.isAnimated)

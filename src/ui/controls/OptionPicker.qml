@@ -18,12 +18,13 @@ T.AbstractButton {
     property string caption ///< above the rows
     property var editHelpFor: option => ""
     property string highlightedId ///< of the row under the pointer or the keyboard; "" for none
-    readonly property bool isPresented: loader.active && loader.item.opened
+    readonly property Popover popover: loader.item as Popover
+    readonly property bool isPresented: popover !== null && popover.opened
     signal chosen(string id)
     signal editRequested(string id)
     function close() {
-        if (loader.active)
-            loader.item.close();
+        if (popover)
+            popover.close();
     }
 
     readonly property var chosenOption: options.find(option => option.id === selection)
@@ -37,12 +38,13 @@ T.AbstractButton {
     focusPolicy: Qt.StrongFocus
     onClicked: {
         loader.active = true;
-        loader.item.open();
+        popover.open();
     }
     Keys.onReturnPressed: clicked()
     Keys.onDownPressed: clicked()
 
-    Component.onCompleted: Accessible.role = Accessible.ComboBox // over the template's own
+    Accessible.role: Accessible.ComboBox
+    Accessible.onRoleChanged: Accessible.role = Accessible.ComboBox // the template puts its own in its place
     Accessible.description: chosenOption ? chosenOption.name : ""
     Accessible.onPressAction: clicked()
 

@@ -44,11 +44,13 @@ Rectangle {
                 Keys.onRightPressed: pillSwitch.step(1)
                 Keys.onLeftPressed: pillSwitch.step(-1)
                 Accessible.role: Accessible.RadioButton
+                Accessible.onRoleChanged: Accessible.role = Accessible.RadioButton // over the template's own
                 Accessible.name: modelData.name
                 Accessible.description: modelData.detail ?? ""
                 Accessible.checkable: true
                 Accessible.checked: isOn
                 Accessible.onPressAction: clicked()
+                Accessible.onToggleAction: clicked()
                 contentItem: Label {
                     id: label
                     text: pill.modelData.name

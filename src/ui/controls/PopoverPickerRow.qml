@@ -20,18 +20,20 @@ T.AbstractButton {
     rightPadding: editHelp === "" ? 10 : 40
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
-    
+
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
     Keys.onDownPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
     Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
 
     Accessible.role: Accessible.RadioButton
+    Accessible.onRoleChanged: Accessible.role = Accessible.RadioButton // the template puts its own in its place
     Accessible.name: name
     Accessible.description: detail
     Accessible.checkable: true
     Accessible.checked: isSelected
     Accessible.onPressAction: clicked()
+    Accessible.onToggleAction: clicked()
 
     contentItem: Item {
         RadioMark {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick
 import QtQuick.Templates as T
+import QtQuick.Window
 import Varlo
 
 /// A white sheet over the window, never larger than the window less 32. Esc closes it, and the focus goes back.
@@ -12,6 +13,7 @@ T.Popup {
     property real wishedWidth: 720
     property real wishedHeight: 600
     property bool isSecond: false ///< lies over another sheet
+    property Item opener: null ///< what had the focus; Qt leaves it with the window
 
     parent: T.Overlay.overlay
     anchors.centerIn: parent
@@ -21,6 +23,12 @@ T.Popup {
     focus: true
     padding: 0
     closePolicy: T.Popup.CloseOnEscape
+    onAboutToShow: opener = parent.Window.activeFocusItem
+    onClosed: {
+        const holder = parent ? parent.Window.activeFocusItem : null;
+        if (opener && (!holder || holder === parent.Window.contentItem))
+            opener.forceActiveFocus(Qt.PopupFocusReason);
+    }
 
     enter: Transition {
         NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.slow; easing.type: Easing.OutQuint }
