@@ -282,7 +282,7 @@ class WindowTest(unittest.TestCase):
         self.wait_for_row("two.txt", "Pending")
         self.check_names_of_controls()
         self.find("Filename language").get_action_iface().do_action(0)
-        self.find("Nederlands").get_action_iface().do_action(0)
+        self.find("Nederlands", "radio button").get_action_iface().do_action(0)
         until(lambda: self.find("Filename language").get_description() == "Nederlands", "the choice")
         self.press("Suggest Names")
         self.wait_for_row("two.txt", "Suggested")

@@ -43,8 +43,6 @@ T.AbstractButton {
     Keys.onReturnPressed: clicked()
     Keys.onDownPressed: clicked()
 
-    Accessible.role: Accessible.ComboBox
-    Accessible.onRoleChanged: Accessible.role = Accessible.ComboBox // the template puts its own in its place
     Accessible.description: chosenOption ? chosenOption.name : ""
     Accessible.onPressAction: clicked()
 

@@ -32,7 +32,7 @@ Rectangle {
         Repeater {
             id: choices
             model: pillSwitch.options
-            T.AbstractButton {
+            T.RadioButton {
                 id: pill
                 required property var modelData
                 readonly property bool isOn: modelData.id === pillSwitch.selection
@@ -40,15 +40,13 @@ Rectangle {
                 implicitHeight: pillSwitch.height - 6
                 hoverEnabled: true
                 focusPolicy: isOn ? Qt.StrongFocus : Qt.ClickFocus
+                checked: isOn
+                onToggled: checked = Qt.binding(() => pill.isOn) // who owns the choice decides
                 onClicked: pillSwitch.chosen(modelData.id)
                 Keys.onRightPressed: pillSwitch.step(1)
                 Keys.onLeftPressed: pillSwitch.step(-1)
-                Accessible.role: Accessible.RadioButton
-                Accessible.onRoleChanged: Accessible.role = Accessible.RadioButton // over the template's own
                 Accessible.name: modelData.name
                 Accessible.description: modelData.detail ?? ""
-                Accessible.checkable: true
-                Accessible.checked: isOn
                 Accessible.onPressAction: clicked()
                 Accessible.onToggleAction: clicked()
                 contentItem: Label {

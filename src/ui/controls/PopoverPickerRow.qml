@@ -5,7 +5,7 @@ import QtQuick.Templates as T
 import Varlo
 
 /// One choice of a picker's popover.
-T.AbstractButton {
+T.RadioButton {
     id: row
 
     required property bool isSelected
@@ -18,6 +18,8 @@ T.AbstractButton {
     implicitHeight: Theme.text(detail === "" ? 36 : 50)
     leftPadding: 10
     rightPadding: editHelp === "" ? 10 : 40
+    checked: isSelected
+    onToggled: checked = Qt.binding(() => row.isSelected) // who owns the choice decides
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
 
@@ -26,12 +28,8 @@ T.AbstractButton {
     Keys.onDownPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
     Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
 
-    Accessible.role: Accessible.RadioButton
-    Accessible.onRoleChanged: Accessible.role = Accessible.RadioButton // the template puts its own in its place
     Accessible.name: name
     Accessible.description: detail
-    Accessible.checkable: true
-    Accessible.checked: isSelected
     Accessible.onPressAction: clicked()
     Accessible.onToggleAction: clicked()
 
