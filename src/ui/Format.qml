@@ -23,7 +23,7 @@ QtObject {
     function place(folderName: string, byteSize: real): string {
         return isolated(folderName) + " · " + bytes(byteSize);
     }
-    function seconds(value: real): string {
-        return Qt.locale("C").toString(value, "f", 1) + "s";
+    function seconds(value: var): string {
+        return value.toFixed(1) + "s";
     }
 }

@@ -188,6 +188,7 @@ static void fillHistory(Stage &stage)
 {
     const auto renamed = [&](int daysAgo, QTime time, const char *from, const char *to) {
         stage.clock.time = QDateTime(QDate(2026, 3, 14).addDays(-daysAgo), time);
+        stage.batch.clear(); // what was reverted would be renamed again
         const std::filesystem::path path = stage.make({ "Downloads", from, 1000, to, {} });
         QCoro::waitFor(stage.batch.addFiles({ path }, false));
         QCoro::waitFor(stage.batch.suggestAll());

@@ -9,6 +9,7 @@ Wants an X server and a session bus of its own (xvfb-run, dbus-run-session).
 """
 import os
 import pathlib
+import re
 import signal
 import subprocess
 import sys
@@ -287,6 +288,8 @@ class WindowTest(unittest.TestCase):
         self.press("Suggest Names")
         self.wait_for_row("two.txt", "Suggested")
         self.check_names_of_controls()
+        until(lambda: [node for node in below(self.frame) if re.fullmatch(r"2/2, \d+ bytes, \d+\.\ds", node.get_name())],
+              "the statistics")
         self.press("Rename")
         self.wait_for_names("Offered.txt", "two.txt")
         self.press("Rename All")
