@@ -5,7 +5,7 @@
 add_library(varlo_options INTERFACE)
 target_compile_features(varlo_options INTERFACE cxx_std_20)
 target_compile_options(varlo_options INTERFACE
-  -Wall -Wextra -Wpedantic -Werror -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough)
+  -Wall -Wextra -Wpedantic $<$<BOOL:${VARLO_WARNINGS_AS_ERRORS}>:-Werror> -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough)
 target_compile_definitions(varlo_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_CAST_FROM_BYTEARRAY
   QT_NO_FOREACH QT_DISABLE_DEPRECATED_BEFORE=0x060400 _FILE_OFFSET_BITS=64
