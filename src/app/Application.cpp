@@ -27,6 +27,7 @@ Application::Application(const Environment &environment)
     : m_folders(StateFolders::from(environment))
     , m_preferenceStore(m_folders.config / "preferences.json")
     , m_preferences(m_preferenceStore)
+    , m_language(m_preferences, m_locale)
     , m_templateStore(m_preferences)
     , m_folderAccess(m_preferences, m_folderPanel)
     , m_journal(m_folders.state)
@@ -68,6 +69,15 @@ std::unique_ptr<NameSuggestionService> Application::makeSuggester(const Environm
     return client;
 }
 
+void Application::retranslate()
+{
+    m_engine.retranslate();
+    m_batch->retranslate();
+    m_historyView.retranslate();
+    emit m_templateChoices.changed();
+    emit m_uiState.languageChanged();
+}
+
 QQuickWindow *Application::show()
 {
     m_engine.addImportPath(u"qrc:/qt/qml"_s); // where later versions of Qt look by themselves
@@ -90,6 +100,7 @@ QQuickWindow *Application::show()
             m_reader.warmUp(); // the first file then does not wait for the readers' process
         },
         Qt::SingleShotConnection);
+    QObject::connect(&m_language, &InterfaceLanguage::changed, window, [this] { retranslate(); });
     window->show();
     m_watchedFolder.apply();
     return window;

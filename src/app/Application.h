@@ -5,6 +5,7 @@
 #include "app/FolderPanel.h"
 #include "extraction/IsolatedContentReader.h"
 #include "history/HistoryView.h"
+#include "languages/InterfaceLanguage.h"
 #include "platform/linux/JsonPreferenceStore.h"
 #include "platform/linux/LinuxFileFlags.h"
 #include "platform/linux/QtSystemLocale.h"
@@ -38,6 +39,7 @@ public:
 
 private:
     [[nodiscard]] std::unique_ptr<NameSuggestionService> makeSuggester(const Environment &environment);
+    void retranslate();
 
     StateFolders m_folders;
     LinuxFileFlags m_fileFlags;
@@ -46,6 +48,7 @@ private:
     FolderPanel m_folderPanel;
     JsonPreferenceStore m_preferenceStore;
     Preferences m_preferences;
+    InterfaceLanguage m_language;
     TemplateStore m_templateStore;
     FolderAccess m_folderAccess;
     RenameJournal m_journal;

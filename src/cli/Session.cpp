@@ -34,6 +34,7 @@ Preferences &Session::preferences()
     if (!m_preferences) {
         m_preferenceStore = std::make_unique<JsonPreferenceStore>(m_folders.config / "preferences.json");
         m_preferences = std::make_unique<Preferences>(*m_preferenceStore);
+        m_language = std::make_unique<InterfaceLanguage>(*m_preferences, m_locale);
         tellNotices();
     }
     return *m_preferences;

@@ -7,6 +7,7 @@
 #include "cli/TerminalFolderPanel.h"
 #include "extraction/IsolatedContentReader.h"
 #include "history/RenameLog.h"
+#include "languages/InterfaceLanguage.h"
 #include "platform/linux/JsonPreferenceStore.h"
 #include "platform/linux/LinuxFileFlags.h"
 #include "platform/linux/QtSystemLocale.h"
@@ -38,7 +39,8 @@ public:
     [[nodiscard]] Terminal &terminal() { return m_terminal; }
     [[nodiscard]] const Environment &environment() const { return m_environment; }
     [[nodiscard]] const StateFolders &folders() const { return m_folders; }
-    [[nodiscard]] Preferences &preferences();
+    /// From the first call on, texts are in the language that they name.
+    Preferences &preferences();
     [[nodiscard]] TemplateStore &templateStore();
     [[nodiscard]] RenameLog &renameLog();
     [[nodiscard]] FolderAccess &folderAccess();
@@ -75,6 +77,7 @@ private:
     // In the order in which they use each other: the last is gone first.
     std::unique_ptr<JsonPreferenceStore> m_preferenceStore;
     std::unique_ptr<Preferences> m_preferences;
+    std::unique_ptr<InterfaceLanguage> m_language;
     std::unique_ptr<TemplateStore> m_templateStore;
     std::unique_ptr<FolderAccess> m_folderAccess;
     std::unique_ptr<RenameJournal> m_journal;

@@ -33,6 +33,7 @@ int main(int argumentCount, char **arguments)
 
     QCoreApplication application(argumentCount, arguments);
     QCoreApplication::setApplicationName(QStringLiteral("varlo"));
+    session.preferences(); // which choose the language of every text to come
     const ExitCode code = std::visit([&session](const auto &call) { return run(call, session); }, *command);
     return static_cast<int>(session.terminal().isOutputWhole() ? code : ExitCode::SomeFailed);
 }

@@ -24,7 +24,7 @@ struct Finding {
 
 } // namespace
 
-static QString translate(const char *text) { return QCoreApplication::translate("Doctor", text); }
+static QString words(const char *text) { return QCoreApplication::translate("Doctor", text); }
 
 /// Whether something could be stored in the folder, or in the nearest one above it that exists.
 static Finding lookAtFolder(const QString &subject, const std::filesystem::path &folder)
@@ -36,26 +36,26 @@ static Finding lookAtFolder(const QString &subject, const std::filesystem::path 
     const QString shown = visibleText(folder);
     if (std::filesystem::is_directory(existing, error) && ::access(existing.c_str(), W_OK | X_OK) == 0)
         return { subject, true, shown, {} };
-    return { subject, false, translate(QT_TRANSLATE_NOOP("Doctor", "%1 cannot be written")).arg(shown),
-        translate(QT_TRANSLATE_NOOP("Doctor", "make %1 a folder of yours")).arg(visibleText(existing)) };
+    return { subject, false, words(QT_TRANSLATE_NOOP("Doctor", "%1 cannot be written")).arg(shown),
+        words(QT_TRANSLATE_NOOP("Doctor", "make %1 a folder of yours")).arg(visibleText(existing)) };
 }
 
 static Finding lookAtKey(Session &session, const Endpoint &endpoint)
 {
-    const QString subject = translate(QT_TRANSLATE_NOOP("Doctor", "API key"));
+    const QString subject = words(QT_TRANSLATE_NOOP("Doctor", "API key"));
     const auto key = QCoro::waitFor(session.keyStore(endpoint).loadKey());
     if (key)
-        return { subject, true, translate(QT_TRANSLATE_NOOP("Doctor", "stored for %1")).arg(endpoint.origin()), {} };
+        return { subject, true, words(QT_TRANSLATE_NOOP("Doctor", "stored for %1")).arg(endpoint.origin()), {} };
     switch (key.error()) {
     case SecretStore::Failure::NotFound:
-        return { subject, false, translate(QT_TRANSLATE_NOOP("Doctor", "none for %1")).arg(endpoint.origin()),
-            translate(QT_TRANSLATE_NOOP("Doctor", "store one with `varlo key set`, or use --offline")) };
+        return { subject, false, words(QT_TRANSLATE_NOOP("Doctor", "none for %1")).arg(endpoint.origin()),
+            words(QT_TRANSLATE_NOOP("Doctor", "store one with `varlo key set`, or use --offline")) };
     case SecretStore::Failure::Locked:
-        return { subject, false, translate(QT_TRANSLATE_NOOP("Doctor", "the keyring is locked")),
-            translate(QT_TRANSLATE_NOOP("Doctor", "unlock the keyring, for example by logging in to the desktop")) };
+        return { subject, false, words(QT_TRANSLATE_NOOP("Doctor", "the keyring is locked")),
+            words(QT_TRANSLATE_NOOP("Doctor", "unlock the keyring, for example by logging in to the desktop")) };
     case SecretStore::Failure::Unavailable:
-        return { subject, false, translate(QT_TRANSLATE_NOOP("Doctor", "the secret store does not answer")),
-            translate(QT_TRANSLATE_NOOP("Doctor", "restart the desktop's keyring service")) };
+        return { subject, false, words(QT_TRANSLATE_NOOP("Doctor", "the secret store does not answer")),
+            words(QT_TRANSLATE_NOOP("Doctor", "restart the desktop's keyring service")) };
     }
     Q_UNREACHABLE();
 }
@@ -72,15 +72,15 @@ static QString lockedInWith(const SandboxLayers &layers)
 
 static Finding lookAtSandbox(const std::optional<SandboxLayers> &layers)
 {
-    const QString subject = translate(QT_TRANSLATE_NOOP("Doctor", "Sandbox"));
+    const QString subject = words(QT_TRANSLATE_NOOP("Doctor", "Sandbox"));
     const QString names = lockedInWith(layers.value_or(SandboxLayers()));
     if (layers && layers->isComplete())
         return { subject, true, names, {} };
     const QString detail = names.isEmpty()
-        ? translate(QT_TRANSLATE_NOOP("Doctor", "files are read without one"))
-        : translate(QT_TRANSLATE_NOOP("Doctor", "files are read with %1 only")).arg(names);
+        ? words(QT_TRANSLATE_NOOP("Doctor", "files are read without one"))
+        : words(QT_TRANSLATE_NOOP("Doctor", "files are read with %1 only")).arg(names);
     return { subject, false, detail,
-        translate(QT_TRANSLATE_NOOP("Doctor", "use a kernel of version 5.13 or newer with Landlock and seccomp")) };
+        words(QT_TRANSLATE_NOOP("Doctor", "use a kernel of version 5.13 or newer with Landlock and seccomp")) };
 }
 
 static QStringList texts(const QJsonValue &array)
@@ -93,40 +93,39 @@ static QStringList texts(const QJsonValue &array)
 
 static Finding lookAtRecognition(const QStringList &missingLanguages)
 {
-    const QString subject = translate(QT_TRANSLATE_NOOP("Doctor", "Recognition"));
+    const QString subject = words(QT_TRANSLATE_NOOP("Doctor", "Recognition"));
     if (missingLanguages.isEmpty())
-        return { subject, true, translate(QT_TRANSLATE_NOOP("Doctor", "English, Dutch, Spanish")), {} };
+        return { subject, true, words(QT_TRANSLATE_NOOP("Doctor", "English, Dutch, Spanish")), {} };
     QStringList packages;
     for (const QString &language : missingLanguages)
         packages.append(u"tesseract-ocr-"_s + language);
     return { subject, false,
-        translate(QT_TRANSLATE_NOOP("Doctor", "no language data for %1")).arg(missingLanguages.join(u", ")),
-        translate(QT_TRANSLATE_NOOP("Doctor", "install %1")).arg(packages.join(u' ')) };
+        words(QT_TRANSLATE_NOOP("Doctor", "no language data for %1")).arg(missingLanguages.join(u", ")),
+        words(QT_TRANSLATE_NOOP("Doctor", "install %1")).arg(packages.join(u' ')) };
 }
 
 static Finding lookAtPictures(const QStringList &missingFormats)
 {
-    const QString subject = translate(QT_TRANSLATE_NOOP("Doctor", "Pictures"));
+    const QString subject = words(QT_TRANSLATE_NOOP("Doctor", "Pictures"));
     if (missingFormats.isEmpty())
-        return { subject, true, translate(QT_TRANSLATE_NOOP("Doctor", "every format can be read")), {} };
-    return { subject, false,
-        translate(QT_TRANSLATE_NOOP("Doctor", "no decoder for %1")).arg(missingFormats.join(u", ")),
-        translate(QT_TRANSLATE_NOOP("Doctor", "install Qt's image formats, and libvips with its loaders")) };
+        return { subject, true, words(QT_TRANSLATE_NOOP("Doctor", "every format can be read")), {} };
+    return { subject, false, words(QT_TRANSLATE_NOOP("Doctor", "no decoder for %1")).arg(missingFormats.join(u", ")),
+        words(QT_TRANSLATE_NOOP("Doctor", "install Qt's image formats, and libvips with its loaders")) };
 }
 
 /// By the word of a worker, locked in as those that read files are.
 static QList<Finding> lookAtReaders(Session &session)
 {
-    const QString subject = translate(QT_TRANSLATE_NOOP("Doctor", "Readers"));
+    const QString subject = words(QT_TRANSLATE_NOOP("Doctor", "Readers"));
     const auto report = QCoro::waitFor(session.reader().inspect());
     if (!report)
-        return { { subject, false, report.error(), translate(QT_TRANSLATE_NOOP("Doctor", "install Varlo again")) } };
+        return { { subject, false, report.error(), words(QT_TRANSLATE_NOOP("Doctor", "install Varlo again")) } };
     const QStringList missingParts = texts(report->findings[u"missingParts"_s]);
     QList<Finding> findings { lookAtSandbox(report->layers) };
     if (!missingParts.isEmpty())
         findings.append(
-            { subject, false, translate(QT_TRANSLATE_NOOP("Doctor", "not there: %1")).arg(missingParts.join(u", ")),
-                translate(QT_TRANSLATE_NOOP("Doctor", "install Varlo again, with the libraries that it names")) });
+            { subject, false, words(QT_TRANSLATE_NOOP("Doctor", "not there: %1")).arg(missingParts.join(u", ")),
+                words(QT_TRANSLATE_NOOP("Doctor", "install Varlo again, with the libraries that it names")) });
     findings.append(lookAtRecognition(texts(report->findings[u"missingLanguages"_s])));
     findings.append(lookAtPictures(texts(report->findings[u"missingFormats"_s])));
     return findings;
@@ -135,19 +134,19 @@ static QList<Finding> lookAtReaders(Session &session)
 static QList<Finding> examine(const DoctorCommand &command, Session &session)
 {
     QList<Finding> findings {
-        lookAtFolder(translate(QT_TRANSLATE_NOOP("Doctor", "Settings")), session.folders().config),
-        lookAtFolder(translate(QT_TRANSLATE_NOOP("Doctor", "State")), session.folders().state),
+        lookAtFolder(words(QT_TRANSLATE_NOOP("Doctor", "Settings")), session.folders().config),
+        lookAtFolder(words(QT_TRANSLATE_NOOP("Doctor", "State")), session.folders().state),
     };
     if (const std::optional<Endpoint> endpoint = session.endpoint(command.endpoint)) {
-        findings.append({ translate(QT_TRANSLATE_NOOP("Doctor", "Endpoint")), true,
+        findings.append({ words(QT_TRANSLATE_NOOP("Doctor", "Endpoint")), true,
             visibleText(endpoint->messagesUrl().toString()), {} });
         findings.append(lookAtKey(session, *endpoint)); // the store has said then which one it is
     } else {
-        findings.append({ translate(QT_TRANSLATE_NOOP("Doctor", "Endpoint")), false,
-            translate(QT_TRANSLATE_NOOP("Doctor", "it cannot be used")),
-            translate(QT_TRANSLATE_NOOP("Doctor", "give another one with `varlo config set endpoint URL`")) });
+        findings.append({ words(QT_TRANSLATE_NOOP("Doctor", "Endpoint")), false,
+            words(QT_TRANSLATE_NOOP("Doctor", "it cannot be used")),
+            words(QT_TRANSLATE_NOOP("Doctor", "give another one with `varlo config set endpoint URL`")) });
     }
-    findings.append({ translate(QT_TRANSLATE_NOOP("Doctor", "Secret store")), true,
+    findings.append({ words(QT_TRANSLATE_NOOP("Doctor", "Secret store")), true,
         visibleText(session.secretStore().description()), {} });
     return findings + lookAtReaders(session);
 }

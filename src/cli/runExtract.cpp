@@ -53,7 +53,7 @@ static QJsonObject toJson(const std::filesystem::path &path, const Extraction &e
                    },
                    [&](const Unreadable &unreadable) {
                        setResult(u"unreadable"_s);
-                       object.insert(u"message"_s, unreadable.message);
+                       object.insert(u"message"_s, unreadable.message.text());
                    },
                    [&](NoTextFound) { setResult(u"noTextFound"_s); },
                    [&](NotSupportedYet) { setResult(u"notSupportedYet"_s); },

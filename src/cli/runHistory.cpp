@@ -123,11 +123,11 @@ static bool undo(const QString &id, const UndoCommand &command, Session &session
     Terminal &terminal = session.terminal();
     QJsonObject object { { u"id"_s, id } };
     RenameLog::RevertOutcome outcome
-        = tl::unexpected(QCoreApplication::translate("Terminal", "the history has no such rename"));
+        = tl::unexpected(Message("Terminal", QT_TRANSLATE_NOOP("Terminal", "the history has no such rename")));
     if (isKnown(session.renameLog(), id))
         outcome = QCoro::waitFor(session.renameLog().revert(id));
     if (!outcome) {
-        object.insert(u"message"_s, outcome.error());
+        object.insert(u"message"_s, outcome.error().text());
         terminal.complain(visibleText(id) + u": "_s + visibleMessage(outcome.error()));
     } else if (*outcome) {
         insertPath(object, u"restoredPath"_s, **outcome);

@@ -43,7 +43,7 @@ static void printPlan(const std::vector<const FileItem *> &items, Terminal &term
         const std::filesystem::path &path = items[index]->path;
         TableCell target;
         if (!outcomes[index])
-            target = { visibleText(description(outcomes[index].error())), Colour::Red };
+            target = { visibleText(description(outcomes[index].error()).text()), Colour::Red };
         else if (*outcomes[index] == path)
             target = { QCoreApplication::translate("Terminal", "(stays as it is)"), Colour::Dim };
         else
@@ -155,7 +155,7 @@ static ExitCode suggestAndRename(const RenameCommand &command, Session &session,
     const auto whenSuggested = [&](const FileItem &item) {
         const auto *failed = std::get_if<FileItem::Failed>(&item.status);
         if (item.suggestedName.isEmpty())
-            addFailure(summary, failed ? failed->message : label(item.status));
+            addFailure(summary, failed ? failed->message.text() : label(item.status));
         // A renamed file's line comes with its rename.
         if (command.json && (command.dryRun || item.suggestedName.isEmpty()))
             terminal.printJson(toJson(item));

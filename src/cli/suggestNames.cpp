@@ -30,7 +30,7 @@ QJsonObject toJson(const FileItem &item)
         { u"tags"_s, QJsonArray::fromStringList(item.suggestedTags) } };
     insertPath(object, u"path"_s, item.path);
     if (const auto *failed = std::get_if<FileItem::Failed>(&item.status))
-        object.insert(u"message"_s, failed->message);
+        object.insert(u"message"_s, failed->message.text());
     return object;
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/Message.h"
 #include <optional>
 #include <QByteArray>
 #include <QString>
@@ -24,7 +25,7 @@ struct ImageContent {
 using FileContent = std::variant<TextContent, ImageContent>;
 
 struct Unreadable {
-    QString message; ///< why it could not be opened; shown to the user as it stands
+    Message message; ///< why it could not be opened
 
     bool operator==(const Unreadable &) const = default;
 };

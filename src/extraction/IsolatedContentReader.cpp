@@ -26,20 +26,20 @@ static constexpr int mostFilesAtOnce = 5;
 // Opened, and for a worker to read. Shared, as what a thread gives back has to be copied.
 using OpenedFile = std::shared_ptr<const FileDescriptor>;
 
-static QString unsafeMessage()
+static Message unsafeMessage()
 {
     //: Error for a file whose reader died or answered nonsense.
-    return QCoreApplication::translate("Extraction", "This file could not be read safely.");
+    return { "Extraction", QT_TRANSLATE_NOOP("Extraction", "This file could not be read safely.") };
 }
 
-static QString wordsFor(WorkerFailure failure)
+static Message wordsFor(WorkerFailure failure)
 {
     switch (failure) {
     case WorkerFailure::TookTooLong:
-        return QCoreApplication::translate("Extraction", "Reading this file took too long.");
+        return { "Extraction", QT_TRANSLATE_NOOP("Extraction", "Reading this file took too long.") };
     case WorkerFailure::NotInstalled:
         //: Error when a file of the program itself is missing.
-        return QCoreApplication::translate("Extraction", "The part that reads such files is not installed.");
+        return { "Extraction", QT_TRANSLATE_NOOP("Extraction", "The part that reads such files is not installed.") };
     case WorkerFailure::Unsafe:
     case WorkerFailure::StarterGone:
         break;
@@ -229,7 +229,7 @@ QCoro::Task<Result<ReadersReport, QString>> IsolatedContentReader::State::inspec
     const WorkerOutcome outcome = co_await ask(state, job, noFile);
     const auto *const answer = std::get_if<WorkerAnswer>(&outcome);
     if (!answer)
-        co_return tl::unexpected(wordsFor(std::get<WorkerFailure>(outcome)));
+        co_return tl::unexpected(wordsFor(std::get<WorkerFailure>(outcome)).text());
     const auto *const found = std::get_if<ReadersFound>(answer);
     co_return ReadersReport { found ? found->findings : QJsonObject(), state->layers };
 }

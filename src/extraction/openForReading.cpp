@@ -9,11 +9,12 @@
 
 namespace Varlo {
 
-static QString cloudPlaceholderMessage()
+static Message cloudPlaceholderMessage()
 {
     //: Error for cloud placeholder files whose content is not on this computer.
-    return QCoreApplication::translate(
-        "Extraction", "This file is online-only. Download it in its cloud app first, then try again.");
+    return { "Extraction",
+        QT_TRANSLATE_NOOP(
+            "Extraction", "This file is online-only. Download it in its cloud app first, then try again.") };
 }
 
 static Result<bool, SystemError> hasFirstByte(const FileDescriptor &file)

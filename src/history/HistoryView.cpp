@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "history/HistoryView.h"
 
-#include "platform/visibleText.h"
 #include <QLocale>
 #include <QPointer>
 
@@ -74,6 +73,13 @@ QHash<int, QByteArray> HistoryView::roleNames() const
         { SelectedRole, "isSelected" } };
 }
 
+void HistoryView::retranslate()
+{
+    if (rowCount() > 0)
+        emit dataChanged(index(0, 0), index(rowCount() - 1, 0), { DayRole, TimeRole });
+    emit lastErrorChanged();
+}
+
 void HistoryView::setSearchText(const QString &text)
 {
     if (m_searchText == text)
@@ -137,7 +143,7 @@ void HistoryView::revertSelected()
 QCoro::Task<void> HistoryView::revertAll(QStringList ids)
 {
     const QPointer<HistoryView> self = this;
-    QString message;
+    Message message;
     const RenameLog::Action action = m_log.beginAction();
     for (const QString &id : std::as_const(ids)) {
         const RenameLog::RevertOutcome outcome = co_await m_log.revert(id);
@@ -154,7 +160,7 @@ void HistoryView::revertLatest()
     [](QPointer<HistoryView> self) -> QCoro::Task<void> {
         const RenameLog::RevertOutcome outcome = co_await self->m_log.revertLatest();
         if (self)
-            self->setLastError(outcome ? QString() : outcome.error());
+            self->setLastError(outcome ? Message() : outcome.error());
     }(this);
 }
 
@@ -162,7 +168,7 @@ void HistoryView::clear()
 {
     const Result<void, SystemError> cleared = m_log.clear();
     setSelected({});
-    setLastError(cleared ? QString() : description(cleared.error()));
+    setLastError(cleared ? Message() : description(cleared.error()));
 }
 
 void HistoryView::reset()
@@ -172,12 +178,11 @@ void HistoryView::reset()
     setLastError({});
 }
 
-void HistoryView::setLastError(const QString &message)
+void HistoryView::setLastError(const Message &message)
 {
-    const QString shown = visibleMessage(message);
-    if (m_lastError == shown)
+    if (m_lastError == message)
         return;
-    m_lastError = shown;
+    m_lastError = message;
     emit lastErrorChanged();
 }
 

@@ -4,6 +4,7 @@
 
 #include "history/RenameLog.h"
 #include "platform/Clock.h"
+#include "platform/visibleText.h"
 #include <QSet>
 #include <QSortFilterProxyModel>
 
@@ -26,12 +27,15 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex &index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
+    /// Announces every text of Varlo's own again, in the interface's new language.
+    void retranslate();
+
     [[nodiscard]] QString searchText() const { return m_searchText; }
     /// Looks in the names before and after a rename, not in folders or dates, in any case. Spaces around it do not
     /// count.
     void setSearchText(const QString &text);
     /// Why the latest taking back failed; "" where it did not.
-    [[nodiscard]] QString lastError() const { return m_lastError; }
+    [[nodiscard]] QString lastError() const { return visibleMessage(m_lastError); }
     [[nodiscard]] int selectedCount() const { return static_cast<int>(m_selectedIDs.size()); }
     [[nodiscard]] int savedCount() const { return m_log.rowCount(); }
 
@@ -63,13 +67,13 @@ private:
     [[nodiscard]] QString dayTitle(const QDate &day) const;
     QCoro::Task<void> revertAll(QStringList ids);
     void setSelected(const QSet<QString> &ids);
-    void setLastError(const QString &message);
+    void setLastError(const Message &message);
 
     RenameLog &m_log;
     const Clock &m_clock;
     QString m_searchText;
     QString m_needle; ///< what is looked for: trimmed and in lower case
-    QString m_lastError;
+    Message m_lastError;
     QSet<QString> m_selectedIDs;
 };
 

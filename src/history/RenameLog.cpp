@@ -310,17 +310,22 @@ RenameLog::RevertAttempt RenameLog::attemptRevert(const QString &id)
     return Reverted { renamedPath, takenBack->path };
 }
 
-QString RenameLog::description(const RevertFailure &failure)
+Message RenameLog::description(const RevertFailure &failure)
 {
-    return std::visit(Overloaded {
-                          //: Error when a rename cannot be reverted because the file is gone
-                          [](FileMissing) { return tr("The file could not be found at its renamed location."); },
-                          //: Error when a rename cannot be reverted; %1 is the system's reason
-                          [](const HistoryUnreadable &refusal) {
-                              return tr("The history could not be read: %1").arg(refusal.cause.description());
-                          },
-                          [](const RenameFailure &refusal) { return Varlo::description(refusal); },
-                      },
+    return std::visit(
+        Overloaded {
+            //: Error when a rename cannot be reverted because the file is gone
+            [](FileMissing) {
+                return Message("RenameLog",
+                    QT_TRANSLATE_NOOP("RenameLog", "The file could not be found at its renamed location."));
+            },
+            //: Error when a rename cannot be reverted; %1 is the system's reason
+            [](const HistoryUnreadable &refusal) {
+                return Message("RenameLog", QT_TRANSLATE_NOOP("RenameLog", "The history could not be read: %1"),
+                    { refusal.cause.description() });
+            },
+            [](const RenameFailure &refusal) { return Varlo::description(refusal); },
+        },
         failure);
 }
 

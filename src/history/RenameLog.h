@@ -67,8 +67,8 @@ public:
     void record(const std::filesystem::path &from, const std::filesystem::path &to);
 
     /// The path that the file has again, in the folder where it is now; nothing when there was nothing to take back.
-    /// The error is in words for the user, and then the entry still stands and nothing has moved.
-    using RevertOutcome = Result<std::optional<std::filesystem::path>, QString>;
+    /// Where there is an error, the entry still stands and nothing has moved.
+    using RevertOutcome = Result<std::optional<std::filesystem::path>, Message>;
     [[nodiscard]] QCoro::Task<RevertOutcome> revert(QString id);
     /// Reverts the newest rename that stands.
     [[nodiscard]] QCoro::Task<RevertOutcome> revertLatest();
@@ -94,7 +94,7 @@ private:
     };
     using RevertAttempt = Result<std::optional<Reverted>, RevertFailure>;
 
-    [[nodiscard]] static QString description(const RevertFailure &failure);
+    [[nodiscard]] static Message description(const RevertFailure &failure);
     [[nodiscard]] RevertAttempt attemptRevert(const QString &id);
     [[nodiscard]] RevertOutcome announce(const RevertAttempt &attempt);
     [[nodiscard]] Result<std::optional<QString>, RevertFailure> latestStanding();

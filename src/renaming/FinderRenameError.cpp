@@ -10,17 +10,18 @@ namespace Varlo {
 FinderFailed finderFailedWithoutMessage()
 {
     //: Fallback error when the Finder rename script fails without a message
-    return { QCoreApplication::translate("FinderRenameError", "Finder could not rename the file.") };
+    return { { "FinderRenameError", QT_TRANSLATE_NOOP("FinderRenameError", "Finder could not rename the file.") } };
 }
 
-QString description(const FinderRenameError &error)
+Message description(const FinderRenameError &error)
 {
     return std::visit(Overloaded {
                           [](const FinderFailed &failure) { return failure.message; },
                           [](AutomationDenied) {
                               //: Error when the Finder-control (Automation) permission is missing
-                              return QCoreApplication::translate("FinderRenameError",
-                                  "Allow Varlo to control Finder to rename here (Settings ▸ Folders).");
+                              return Message("FinderRenameError",
+                                  QT_TRANSLATE_NOOP("FinderRenameError",
+                                      "Allow Varlo to control Finder to rename here (Settings ▸ Folders)."));
                           },
                           [](RenameError failure) { return description(RenameFailure(failure)); },
                       },

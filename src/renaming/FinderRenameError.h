@@ -3,14 +3,13 @@
 #pragma once
 
 #include "renaming/RenameFailure.h"
-#include <QString>
 #include <variant>
 
 namespace Varlo {
 
 /// Finder could not rename the file.
 struct FinderFailed {
-    QString message; ///< Finder's own words, shown to the user as they stand
+    Message message; ///< Finder's own words, shown to the user as they stand
 
     bool operator==(const FinderFailed &) const = default;
 };
@@ -25,6 +24,6 @@ using FinderRenameError = std::variant<FinderFailed, AutomationDenied, RenameErr
 [[nodiscard]] FinderFailed finderFailedWithoutMessage();
 
 /// The words shown to the user.
-[[nodiscard]] QString description(const FinderRenameError &error);
+[[nodiscard]] Message description(const FinderRenameError &error);
 
 } // namespace Varlo

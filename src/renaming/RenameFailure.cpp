@@ -7,50 +7,50 @@
 
 namespace Varlo {
 
-static QString translate(const char *text) { return QCoreApplication::translate("RenameFailure", text); }
+static Message words(const char *text) { return { "RenameFailure", text }; }
 
-static QString description(RenameError error)
+static Message description(RenameError error)
 {
     switch (error) {
     case RenameError::InvalidName:
         //: Error when a (possibly user-edited) filename is empty or illegal
-        return translate(QT_TRANSLATE_NOOP("RenameFailure", "Not a valid file name."));
+        return words(QT_TRANSLATE_NOOP("RenameFailure", "Not a valid file name."));
     case RenameError::TooManyConflicts:
         //: Error when no free conflict-numbered filename is available
-        return translate(QT_TRANSLATE_NOOP("RenameFailure", "Too many files with this name."));
+        return words(QT_TRANSLATE_NOOP("RenameFailure", "Too many files with this name."));
     }
     Q_UNREACHABLE();
 }
 
-static QString description(const HistoryNotWritable &failure)
+static Message description(const HistoryNotWritable &failure)
 {
     if (failure.cause.code == EAGAIN) {
         //: Error when another running copy of the program did not let this one rename for five seconds
-        return translate(QT_TRANSLATE_NOOP("RenameFailure", "Another Varlo is renaming files. Try again in a moment."));
+        return words(QT_TRANSLATE_NOOP("RenameFailure", "Another Varlo is renaming files. Try again in a moment."));
     }
     //: Error when a rename could not be noted down before it; %1 is the system's reason
-    return translate(
-        QT_TRANSLATE_NOOP("RenameFailure", "Nothing was renamed, because the history could not be written: %1"))
-        .arg(failure.cause.description());
+    return { "RenameFailure",
+        QT_TRANSLATE_NOOP("RenameFailure", "Nothing was renamed, because the history could not be written: %1"),
+        { failure.cause.description() } };
 }
 
-QString description(const RenameFailure &failure)
+Message description(const RenameFailure &failure)
 {
-    return std::visit(Overloaded {
-                          [](RenameError error) { return description(error); },
-                          [](FileChanged) {
-                              //: Error when another file stands under the name of the one that was added to the list
-                              return translate(QT_TRANSLATE_NOOP(
-                                  "RenameFailure", "The file is not the one that was added any more."));
-                          },
-                          [](SharedAlone) {
-                              //: Error inside a sandbox, where a file was chosen but not the folder that it is in
-                              return translate(QT_TRANSLATE_NOOP("RenameFailure",
-                                  "Varlo was given this file without its folder. Add the folder instead."));
-                          },
-                          [](const HistoryNotWritable &refusal) { return description(refusal); },
-                          [](const SystemError &error) { return error.description(); },
-                      },
+    return std::visit(
+        Overloaded {
+            [](RenameError error) { return description(error); },
+            [](FileChanged) {
+                //: Error when another file stands under the name of the one that was added to the list
+                return words(QT_TRANSLATE_NOOP("RenameFailure", "The file is not the one that was added any more."));
+            },
+            [](SharedAlone) {
+                //: Error inside a sandbox, where a file was chosen but not the folder that it is in
+                return words(QT_TRANSLATE_NOOP(
+                    "RenameFailure", "Varlo was given this file without its folder. Add the folder instead."));
+            },
+            [](const HistoryNotWritable &refusal) { return description(refusal); },
+            [](const SystemError &error) { return Message(error.description()); },
+        },
         failure);
 }
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/Message.h"
 #include "platform/SystemError.h"
-#include <QString>
 #include <variant>
 
 namespace Varlo {
@@ -30,7 +30,7 @@ struct HistoryNotWritable {
 using RenameFailure = std::variant<RenameError, FileChanged, SharedAlone, HistoryNotWritable, SystemError>;
 
 /// The words shown to the user.
-[[nodiscard]] QString description(const RenameFailure &failure);
+[[nodiscard]] Message description(const RenameFailure &failure);
 
 /// The system refused the move for want of a right to the file's folder, so access to it is worth asking for.
 [[nodiscard]] bool isPermissionDenied(const RenameFailure &failure);

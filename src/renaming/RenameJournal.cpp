@@ -26,8 +26,6 @@ static constexpr qint64 sizeLimit = 64 * 1024 * 1024;
 
 static auto latestError() { return tl::unexpected(SystemError::latest()); }
 
-static QString translate(const char *text) { return QCoreApplication::translate("RenameJournal", text); }
-
 RenameJournal::RenameJournal(path folder)
     : m_folder(std::move(folder))
     , m_file(m_folder / "renames.journal")
@@ -153,9 +151,11 @@ Result<void, SystemError> RenameJournal::keepDamaged(const QByteArray &content)
     if (!kept)
         return tl::unexpected(kept.error());
     //: %1 and %2 are paths
-    m_notices.append(translate("The list of the latest renames in \"%1\" was damaged, and some may be missing from the "
-                               "history. The damaged file was kept as \"%2\".")
-                         .arg(shownPath(m_file), shownPath(*kept)));
+    m_notices.append({ "RenameJournal",
+        QT_TRANSLATE_NOOP("RenameJournal",
+            "The list of the latest renames in \"%1\" was damaged, and some may be missing from the history. The "
+            "damaged file was kept as \"%2\"."),
+        { shownPath(m_file), shownPath(*kept) } });
     return {};
 }
 
@@ -169,8 +169,10 @@ Result<void, SystemError> RenameJournal::setAside()
     if (!kept)
         return tl::unexpected(kept.error());
     //: %1 and %2 are paths
-    m_notices.append(translate("\"%1\" could not be read as the list of the latest renames. It was kept as \"%2\".")
-                         .arg(shownPath(m_file), shownPath(*kept)));
+    m_notices.append({ "RenameJournal",
+        QT_TRANSLATE_NOOP(
+            "RenameJournal", "\"%1\" could not be read as the list of the latest renames. It was kept as \"%2\"."),
+        { shownPath(m_file), shownPath(*kept) } });
     return {};
 }
 
@@ -397,14 +399,18 @@ Result<void, SystemError> RenameJournal::tellOfUnknown()
         const auto record = std::find(records.begin(), records.end(), JournalRecord(unknown));
         std::get<RenameIntent>(*record).isTold = true;
         //: %1 and %2 are file names, %3 is a folder
-        m_notices.append(
-            translate("Renaming \"%1\" to \"%2\" was interrupted, and the file was found under neither name "
-                      "in \"%3\".")
-                .arg(shownPath(unknown.from), shownPath(unknown.to), shownPath(unknown.folder)));
+        m_notices.append({ "RenameJournal",
+            QT_TRANSLATE_NOOP("RenameJournal",
+                "Renaming \"%1\" to \"%2\" was interrupted, and the file was found under neither name in \"%3\"."),
+            { shownPath(unknown.from), shownPath(unknown.to), shownPath(unknown.folder) } });
     }
     return rewrite(std::move(records));
 }
 
-QStringList RenameJournal::takeNotices() { return std::exchange(m_notices, {}); }
+QStringList RenameJournal::takeNotices()
+{
+    const QList<Message> notices = std::exchange(m_notices, {});
+    return { notices.begin(), notices.end() };
+}
 
 } // namespace Varlo

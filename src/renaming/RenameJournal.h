@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/linux/FileLock.h"
+#include "platform/Message.h"
 #include "platform/Result.h"
 #include "platform/SystemError.h"
 #include "renaming/JournalRecord.h"
@@ -101,7 +102,7 @@ private:
     qint64 m_reservedSize = 0; ///< the file's own: behind `m_size` it has zeros, for records to come
     quint64 m_foreignChanges = 0;
     bool m_needsSettling = false;
-    QStringList m_notices;
+    QList<Message> m_notices;
 };
 
 } // namespace Varlo

@@ -32,21 +32,21 @@ struct HttpAnswer {
     QByteArray body;
 };
 
-static QString translate(const char *text) { return QCoreApplication::translate("ClaudeNameSuggester", text); }
+static Message words(const char *text) { return { "ClaudeNameSuggester", text }; }
 
 static tl::unexpected<NameSuggestionError> failure(NameSuggestionError error)
 {
     return tl::unexpected(std::move(error));
 }
 
-static tl::unexpected<NameSuggestionError> transportFailure(const QString &description)
+static tl::unexpected<NameSuggestionError> transportFailure(const Message &description)
 {
     return failure(TransportError { description });
 }
 
 static tl::unexpected<NameSuggestionError> cancelled()
 {
-    return transportFailure(translate(QT_TRANSLATE_NOOP("ClaudeNameSuggester", "The request was cancelled.")));
+    return transportFailure(words(QT_TRANSLATE_NOOP("ClaudeNameSuggester", "The request was cancelled.")));
 }
 
 /// The key as the header's value. Qt writes a line break in a header as it stands, so one inside a key would start
@@ -67,7 +67,7 @@ static Result<QByteArray, NameSuggestionError> headerValue(const Result<QString,
         return failure(MissingAPIKey {});
     const auto isControl = [](QChar character) { return character.category() == QChar::Other_Control; };
     if (std::any_of(key.begin(), key.end(), isControl)) {
-        return transportFailure(translate(QT_TRANSLATE_NOOP(
+        return transportFailure(words(QT_TRANSLATE_NOOP(
             "ClaudeNameSuggester", "The API key holds characters that cannot be sent. Save it again.")));
     }
     return key.toUtf8();
@@ -84,7 +84,7 @@ static NameSuggestionError withoutKey(NameSuggestionError error, const QByteArra
     if (auto *refusal = std::get_if<ApiError>(&error))
         refusal->message.replace(secret, u"•••"_s);
     else if (auto *failure = std::get_if<TransportError>(&error))
-        failure->description.replace(secret, u"•••"_s);
+        failure->description = failure->description.replaced(secret, u"•••"_s);
     return error;
 }
 
@@ -143,10 +143,10 @@ static bool isTransportError(const QNetworkReply &reply, int httpStatus)
     return httpStatus == 0 || httpStatus == 200 || reply.error() < QNetworkReply::ProxyConnectionRefusedError;
 }
 
-static QString transportErrorText(const QNetworkReply &reply)
+static Message transportErrorText(const QNetworkReply &reply)
 {
     if (reply.error() == QNetworkReply::ContentReSendError) // see OneTimeBody; Qt's text is "Unknown error"
-        return translate(QT_TRANSLATE_NOOP("ClaudeNameSuggester", "The connection was closed before an answer came."));
+        return words(QT_TRANSLATE_NOOP("ClaudeNameSuggester", "The connection was closed before an answer came."));
     return reply.errorString();
 }
 
@@ -155,16 +155,16 @@ static Result<QString, NameSuggestionError> decodeAnswer(
 {
     if (answer.cutOff == HttpAnswer::CutOff::ByTime) {
         //: Shown in a file's row; %1 is a number of seconds
-        const QString text
-            = translate(QT_TRANSLATE_NOOP("ClaudeNameSuggester", "The model did not answer within %1 seconds."));
-        return transportFailure(text.arg(std::chrono::ceil<std::chrono::seconds>(limits.wholeCall).count()));
+        return transportFailure({ "ClaudeNameSuggester",
+            QT_TRANSLATE_NOOP("ClaudeNameSuggester", "The model did not answer within %1 seconds."),
+            { QString::number(std::chrono::ceil<std::chrono::seconds>(limits.wholeCall).count()) } });
     }
     const int httpStatus = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
     if (!answer.cutOff && isTransportError(reply, httpStatus))
         return transportFailure(transportErrorText(reply));
     if (httpStatus == 200 && answer.body.size() > limits.replyBytes)
         return transportFailure(
-            translate(QT_TRANSLATE_NOOP("ClaudeNameSuggester", "The model's reply is too long to be one.")));
+            words(QT_TRANSLATE_NOOP("ClaudeNameSuggester", "The model's reply is too long to be one.")));
     return decodeReply(httpStatus, answer.body);
 }
 

@@ -7,27 +7,27 @@
 
 namespace Varlo {
 
-QString description(const NameSuggestionError &error)
+Message description(const NameSuggestionError &error)
 {
-    const auto translate = [](const char *text) { return QCoreApplication::translate("NameSuggestionError", text); };
+    const auto words = [](const char *text) { return Message("NameSuggestionError", text); };
     return std::visit(
         Overloaded {
-            [](const ApiError &refusal) { return refusal.message; },
+            [](const ApiError &refusal) { return Message(refusal.message); },
             [](const TransportError &failure) { return failure.description; },
             //: Shown in a file's row when the user has not stored a key for the model yet
-            [&](MissingAPIKey) { return translate(QT_TRANSLATE_NOOP("NameSuggestionError", "No API key set.")); },
+            [&](MissingAPIKey) { return words(QT_TRANSLATE_NOOP("NameSuggestionError", "No API key set.")); },
             //: Shown in a file's row when the desktop's password store has to be unlocked first
             [&](LockedAPIKey) {
-                return translate(QT_TRANSLATE_NOOP(
+                return words(QT_TRANSLATE_NOOP(
                     "NameSuggestionError", "The keyring that holds your API key is locked. Unlock it and try again."));
             },
             //: Shown in a file's row when the model's reply holds no usable file name
             [&](InvalidResponse) {
-                return translate(QT_TRANSLATE_NOOP("NameSuggestionError", "Unexpected response from the model."));
+                return words(QT_TRANSLATE_NOOP("NameSuggestionError", "Unexpected response from the model."));
             },
             //: Shown when the model says that there is nothing to name the file from
             [&](NoReadableContent) {
-                return translate(QT_TRANSLATE_NOOP("NameSuggestionError", "The file has no readable content."));
+                return words(QT_TRANSLATE_NOOP("NameSuggestionError", "The file has no readable content."));
             },
         },
         error);

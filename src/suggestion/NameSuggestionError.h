@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/Message.h"
 #include <QString>
 #include <variant>
 
@@ -15,7 +16,7 @@ struct ApiError {
 };
 /// The call did not get through, or its answer could not be decoded; the description is the lower layer's own.
 struct TransportError {
-    QString description;
+    Message description;
 
     bool operator==(const TransportError &) const = default;
 };
@@ -37,6 +38,6 @@ using NameSuggestionError
     = std::variant<ApiError, TransportError, MissingAPIKey, LockedAPIKey, InvalidResponse, NoReadableContent>;
 
 /// The words shown to the user.
-[[nodiscard]] QString description(const NameSuggestionError &error);
+[[nodiscard]] Message description(const NameSuggestionError &error);
 
 } // namespace Varlo

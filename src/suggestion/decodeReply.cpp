@@ -19,12 +19,11 @@ static ApiError refusal(int httpStatus, const QByteArray &body)
     return { message.isString() ? message.toString() : "HTTP "_L1 + QString::number(httpStatus) };
 }
 
-static TransportError undecodable(const QString &reason)
+static TransportError undecodable(const Message &reason)
 {
     //: Shown in a file's row; %1 says what is wrong with the reply's JSON
-    return {
-        QCoreApplication::translate("ClaudeNameSuggester", "The model's reply could not be read: %1.").arg(reason)
-    };
+    return { { "ClaudeNameSuggester",
+        QT_TRANSLATE_NOOP("ClaudeNameSuggester", "The model's reply could not be read: %1."), { reason } } };
 }
 
 static bool isContentBlock(const QJsonValue &block)
@@ -56,8 +55,8 @@ Result<QString, NameSuggestionError> decodeReply(int httpStatus, const QByteArra
     const QJsonValue content = document.object().value("content"_L1);
     const QJsonArray blocks = content.toArray();
     if (!content.isArray() || !std::all_of(blocks.begin(), blocks.end(), isContentBlock)) {
-        return tl::unexpected(undecodable(
-            QCoreApplication::translate("ClaudeNameSuggester", "it has no well-formed list of content blocks")));
+        return tl::unexpected(undecodable({ "ClaudeNameSuggester",
+            QT_TRANSLATE_NOOP("ClaudeNameSuggester", "it has no well-formed list of content blocks") }));
     }
     const std::optional<QString> text = firstText(blocks);
     if (!text)

@@ -10,6 +10,7 @@ namespace Varlo {
 /// What is open over the main window, and what the desktop asks of every window.
 class AppUIState : public QObject {
     Q_OBJECT
+    Q_PROPERTY(bool showingSettings MEMBER m_showingSettings NOTIFY shownChanged)
     Q_PROPERTY(bool showingHistory MEMBER m_showingHistory NOTIFY shownChanged)
     Q_PROPERTY(bool showingFormats MEMBER m_showingFormats NOTIFY shownChanged)
     Q_PROPERTY(double textScale READ textScale CONSTANT)
@@ -42,6 +43,7 @@ signals:
     void languageChanged();
 
 private:
+    bool m_showingSettings = false;
     bool m_showingHistory = false;
     bool m_showingFormats = false;
 };

@@ -14,17 +14,17 @@ using namespace Qt::StringLiterals;
 
 QString label(const FileItem::Status &status)
 {
-    const auto translate = [](const char *text) { return QCoreApplication::translate("FileItem", text); };
+    const auto words = [](const char *text) { return QCoreApplication::translate("FileItem", text); };
     return std::visit(
         Overloaded {
-            [&](FileItem::Pending) { return translate(QT_TRANSLATE_NOOP("FileItem", "Pending")); },
-            [&](FileItem::Processing) { return translate(QT_TRANSLATE_NOOP("FileItem", "Analyzing…")); },
-            [&](FileItem::Suggested) { return translate(QT_TRANSLATE_NOOP("FileItem", "Suggested")); },
-            [&](FileItem::Renamed) { return translate(QT_TRANSLATE_NOOP("FileItem", "Renamed")); },
-            [&](FileItem::AlreadyRenamed) { return translate(QT_TRANSLATE_NOOP("FileItem", "Already renamed")); },
-            [&](FileItem::NoTextFound) { return translate(QT_TRANSLATE_NOOP("FileItem", "No text found")); },
-            [&](FileItem::NotSupportedYet) { return translate(QT_TRANSLATE_NOOP("FileItem", "Not supported yet")); },
-            [&](const FileItem::Failed &) { return translate(QT_TRANSLATE_NOOP("FileItem", "Failed")); },
+            [&](FileItem::Pending) { return words(QT_TRANSLATE_NOOP("FileItem", "Pending")); },
+            [&](FileItem::Processing) { return words(QT_TRANSLATE_NOOP("FileItem", "Analyzing…")); },
+            [&](FileItem::Suggested) { return words(QT_TRANSLATE_NOOP("FileItem", "Suggested")); },
+            [&](FileItem::Renamed) { return words(QT_TRANSLATE_NOOP("FileItem", "Renamed")); },
+            [&](FileItem::AlreadyRenamed) { return words(QT_TRANSLATE_NOOP("FileItem", "Already renamed")); },
+            [&](FileItem::NoTextFound) { return words(QT_TRANSLATE_NOOP("FileItem", "No text found")); },
+            [&](FileItem::NotSupportedYet) { return words(QT_TRANSLATE_NOOP("FileItem", "Not supported yet")); },
+            [&](const FileItem::Failed &) { return words(QT_TRANSLATE_NOOP("FileItem", "Failed")); },
         },
         status);
 }

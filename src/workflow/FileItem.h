@@ -4,6 +4,7 @@
 
 #include "platform/CompactPath.h"
 #include "platform/FileIdentity.h"
+#include "platform/Message.h"
 #include <deque>
 #include <filesystem>
 #include <optional>
@@ -38,7 +39,7 @@ struct FileItem {
         bool operator==(const NotSupportedYet &) const = default;
     };
     struct Failed { ///< a suggestion or a rename failed
-        QString message; ///< why, for the user
+        Message message; ///< why
 
         bool operator==(const Failed &) const = default;
     };

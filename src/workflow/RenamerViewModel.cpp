@@ -501,7 +501,8 @@ QCoro::Task<void> RenamerViewModel::askForFolderAndRetry(QUuid id)
         co_return;
     if (!isGranted) {
         //: Shown in a file's row when the user did not allow access to its folder
-        failRename(id, tr("No permission to rename in this folder."));
+        failRename(
+            id, { "RenameFailure", QT_TRANSLATE_NOOP("RenameFailure", "No permission to rename in this folder.") });
         co_return;
     }
     const RenameRequest request = renameRequest(m_files[static_cast<std::size_t>(*row)]);
@@ -533,7 +534,7 @@ void RenamerViewModel::finishRename(
     emit renameFinished(*row);
 }
 
-void RenamerViewModel::failRename(const QUuid &id, const QString &message)
+void RenamerViewModel::failRename(const QUuid &id, const Message &message)
 {
     const std::optional<int> row = rowOf(id);
     if (!row)
@@ -611,6 +612,12 @@ void RenamerViewModel::setDropFeedback(std::optional<DropFeedback> feedback)
         return;
     m_dropFeedback = feedback;
     emit dropFeedbackChanged();
+}
+
+void RenamerViewModel::retranslate()
+{
+    if (m_announcedRows > 0)
+        emit dataChanged(index(0), index(m_announcedRows - 1), { StatusLabelRole, MessageRole });
 }
 
 void RenamerViewModel::announce(int row, const QList<int> &roles) { emit dataChanged(index(row), index(row), roles); }

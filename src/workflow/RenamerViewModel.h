@@ -147,6 +147,9 @@ public:
     void stopRenaming() { m_isRenameStopped = true; }
     [[nodiscard]] bool isRenaming() const { return !m_renameTurns.isIdle(); }
 
+    /// Announces every text of Varlo's own again, in the interface's new language.
+    void retranslate();
+
     // What a window asks for; each starts the action of its name, which goes on by itself.
     /// Files dropped or chosen; an address that is no local file is passed over. Says so when nothing can be named.
     Q_INVOKABLE void addUrls(const QList<QUrl> &urls);
@@ -227,7 +230,7 @@ private:
     QCoro::Task<void> askForFolderAndRetry(QUuid id);
     [[nodiscard]] RenameRequest renameRequest(const FileItem &item) const;
     void finishRename(const QUuid &id, const std::filesystem::path &oldPath, const std::filesystem::path &newPath);
-    void failRename(const QUuid &id, const QString &message);
+    void failRename(const QUuid &id, const Message &message);
     void takeBack(const std::filesystem::path &renamedPath, const std::filesystem::path &restoredPath);
     void setPath(int row, const std::filesystem::path &path);
     void setStatus(int row, const FileItem::Status &status);

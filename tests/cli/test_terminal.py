@@ -249,6 +249,17 @@ class TerminalTest(unittest.TestCase):
         self.varlo("history", "clear", "--yes")
         self.assertEqual(self.json_lines("history", "--json"), [])
 
+    def test_speaks_the_chosen_language(self):
+        for preference, system, told in (("nl", "C.UTF-8", "er is geen voorkeur ‘x’"),
+                                         ("es", "C.UTF-8", "no existe la preferencia «x»"),
+                                         ("system", "C.UTF-8", "there is no preference “x”")):
+            with self.subTest(preference):
+                self.varlo("config", "set", "uiLanguage", preference)
+                run = self.varlo("config", "get", "x", code=2, environment={"LC_ALL": system})
+                self.assertIn(told, run.stderr.decode())
+        (self.home / "config/varlo/preferences.json").write_text('{"uiLanguage": "nl", ')
+        self.assertIn("waren beschadigd", self.varlo("formats", environment={"LC_ALL": "nl_NL.UTF-8"}).stderr.decode())
+
     def test_rename_asks_on_a_terminal(self):
         for answer in (b"n\n", b"y\n"):
             self.write("a.txt", "Minutes of the boat club\n\nEverybody came, and all were merry until late.")

@@ -332,7 +332,7 @@ void RenameLogTest::refusesToRevert()
     std::filesystem::remove(to);
     const auto outcome = process->revert(0);
     QVERIFY(!outcome);
-    QCOMPARE(outcome.error(), u"The file could not be found at its renamed location."_s);
+    QCOMPARE(outcome.error().text(), u"The file could not be found at its renamed location."_s);
     QVERIFY(process->log.entries().front().isStanding());
     const auto unknown = QCoro::waitFor(process->log.revert(u"nobody's"_s));
     QVERIFY(unknown && !*unknown);

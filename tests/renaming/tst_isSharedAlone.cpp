@@ -48,7 +48,7 @@ void IsSharedAloneTest::saysWhatToDo()
     const RenameRequest request { "/run/user/1000/doc/3fa91c2d/scan.pdf", u"Invoice"_s, std::nullopt };
     const auto outcomes = planRenames({ &request, 1 });
     QVERIFY(!outcomes.front());
-    QVERIFY(description(outcomes.front().error()).contains(u"folder"_s));
+    QVERIFY(description(outcomes.front().error()).text().contains(u"folder"_s));
     // A grant of the made-up folder would not help, so there is no question for one.
     QVERIFY(!isPermissionDenied(outcomes.front().error()));
 }

@@ -107,7 +107,8 @@ QString deviation(AutomationHost &host, const Scenario &scenario)
     const bool isRenamed = !scenario.renamed.isEmpty();
     const Path expected = below(folder, isRenamed ? scenario.renamed : scenario.fileName);
     if (isRenamed && outcome != expected)
-        return outcome ? u"renamed to "_s + QString::fromStdString(outcome->native()) : description(outcome.error());
+        return outcome ? u"renamed to "_s + QString::fromStdString(outcome->native())
+                       : description(outcome.error()).text();
     if (!isRenamed
         && outcome != tl::make_unexpected(FinderRenameError(FinderFailed { u"Too many files with this name."_s })))
         return u"not the script's own error"_s;

@@ -72,7 +72,7 @@ struct TestBatch {
         QStringList words;
         for (const FileItem &item : batch->files()) {
             const auto *failed = std::get_if<FileItem::Failed>(&item.status);
-            words.append(rawValue(item.status) + (failed ? QStringLiteral(": ") + failed->message : QString()));
+            words.append(rawValue(item.status) + (failed ? QStringLiteral(": ") + failed->message.text() : QString()));
         }
         return words;
     }

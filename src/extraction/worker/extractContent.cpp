@@ -25,18 +25,19 @@ static Extraction readByKind(const FileDescriptor &file, const std::string &exte
     job.usesFurtherDecoder = std::holds_alternative<FurtherDecoderNeeded>(answer);
     if (job.recognizesText || job.usesFurtherDecoder)
         answer = perform(job, file, readers);
-    return std::visit(Overloaded {
-                          [](const FileContent &content) -> Extraction { return content; },
-                          [](const PicturePreview &) -> Extraction { return NoTextFound {}; },
-                          [](NoTextFound) -> Extraction { return NoTextFound {}; },
-                          [](RecognitionNeeded) -> Extraction { return NoTextFound {}; },
-                          [](FurtherDecoderNeeded) -> Extraction { return NoTextFound {}; },
-                          [](ReaderNotInstalled) -> Extraction {
-                              return Unreadable { QCoreApplication::translate(
-                                  "Extraction", "The part that reads such files is not installed.") };
-                          },
-                          [](const ReadersFound &) -> Extraction { return NoTextFound {}; },
-                      },
+    return std::visit(
+        Overloaded {
+            [](const FileContent &content) -> Extraction { return content; },
+            [](const PicturePreview &) -> Extraction { return NoTextFound {}; },
+            [](NoTextFound) -> Extraction { return NoTextFound {}; },
+            [](RecognitionNeeded) -> Extraction { return NoTextFound {}; },
+            [](FurtherDecoderNeeded) -> Extraction { return NoTextFound {}; },
+            [](ReaderNotInstalled) -> Extraction {
+                return Unreadable { { "Extraction",
+                    QT_TRANSLATE_NOOP("Extraction", "The part that reads such files is not installed.") } };
+            },
+            [](const ReadersFound &) -> Extraction { return NoTextFound {}; },
+        },
         answer);
 }
 

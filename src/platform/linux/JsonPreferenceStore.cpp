@@ -214,15 +214,17 @@ Result<void, SystemError> JsonPreferenceStore::setAsideDamaged()
 {
     const auto kept = setAside(m_file);
     if (!kept) {
-        notice(QCoreApplication::translate("JsonPreferenceStore",
-            "The settings in \"%1\" are damaged and could not be set aside: %2 Nothing can be saved until that is "
-            "done.")
-                   .arg(shownPath(m_file), kept.error().description()));
+        notice({ "JsonPreferenceStore",
+            QT_TRANSLATE_NOOP("JsonPreferenceStore",
+                "The settings in \"%1\" are damaged and could not be set aside: %2 Nothing can be saved until that is "
+                "done."),
+            { shownPath(m_file), kept.error().description() } });
         return tl::unexpected(kept.error());
     }
-    notice(QCoreApplication::translate(
-        "JsonPreferenceStore", "The settings in \"%1\" were damaged. The damaged file was kept as \"%2\".")
-               .arg(shownPath(m_file), shownPath(*kept)));
+    notice({ "JsonPreferenceStore",
+        QT_TRANSLATE_NOOP(
+            "JsonPreferenceStore", "The settings in \"%1\" were damaged. The damaged file was kept as \"%2\"."),
+        { shownPath(m_file), shownPath(*kept) } });
     return {};
 }
 
@@ -248,9 +250,10 @@ Result<void, SystemError> JsonPreferenceStore::copyUnderLock()
     if (!kept)
         return tl::unexpected(kept.error());
     m_hasCopied = true;
-    notice(QCoreApplication::translate(
-        "JsonPreferenceStore", "A part of the settings in \"%1\" was damaged. A copy as it was is in \"%2\".")
-               .arg(shownPath(m_file), shownPath(*kept)));
+    notice({ "JsonPreferenceStore",
+        QT_TRANSLATE_NOOP(
+            "JsonPreferenceStore", "A part of the settings in \"%1\" was damaged. A copy as it was is in \"%2\"."),
+        { shownPath(m_file), shownPath(*kept) } });
     return {};
 }
 
@@ -288,8 +291,9 @@ void JsonPreferenceStore::load()
     const auto held = lock();
     if (!held) {
         m_readError = held.error();
-        notice(QCoreApplication::translate("JsonPreferenceStore", "The settings in \"%1\" are damaged: %2")
-                   .arg(shownPath(m_file), held.error().description()));
+        notice(
+            { "JsonPreferenceStore", QT_TRANSLATE_NOOP("JsonPreferenceStore", "The settings in \"%1\" are damaged: %2"),
+                { shownPath(m_file), held.error().description() } });
         return;
     }
     if (const auto values = readUnderLock())
@@ -347,21 +351,26 @@ void JsonPreferenceStore::reload()
         emit changed(key);
 }
 
-void JsonPreferenceStore::notice(const QString &message)
+void JsonPreferenceStore::notice(const Message &message)
 {
-    if (m_noticesGiven.contains(message))
+    if (m_noticesGiven.contains(message.text()))
         return;
-    m_noticesGiven.insert(message);
+    m_noticesGiven.insert(message.text());
     m_notices.append(message);
 }
 
 void JsonPreferenceStore::noticeUnreadable(const StateFileError &error)
 {
-    notice(QCoreApplication::translate(
-        "JsonPreferenceStore", "The settings in \"%1\" could not be read, and the default settings hold: %2")
-               .arg(shownPath(m_file), error.description()));
+    notice({ "JsonPreferenceStore",
+        QT_TRANSLATE_NOOP(
+            "JsonPreferenceStore", "The settings in \"%1\" could not be read, and the default settings hold: %2"),
+        { shownPath(m_file), error.description() } });
 }
 
-QStringList JsonPreferenceStore::takeNotices() { return std::exchange(m_notices, {}); }
+QStringList JsonPreferenceStore::takeNotices()
+{
+    const QList<Message> notices = std::exchange(m_notices, {});
+    return { notices.begin(), notices.end() };
+}
 
 } // namespace Varlo

@@ -52,7 +52,7 @@ private:
     void load();
     void reload();
     void watch();
-    void notice(const QString &message);
+    void notice(const Message &message);
     void noticeUnreadable(const StateFileError &error);
 
     std::filesystem::path m_file;
@@ -63,7 +63,7 @@ private:
     bool m_isLocked = false; ///< by a call further up the stack
     bool m_hasCopied = false;
     QFileSystemWatcher *m_watcher = nullptr;
-    QStringList m_notices;
+    QList<Message> m_notices;
     QSet<QString> m_noticesGiven;
 };
 

@@ -27,13 +27,14 @@ Result<FileDescriptor, OpenError> openRegularFile(const std::filesystem::path &p
     return file;
 }
 
-QString description(const OpenError &error)
+Message description(const OpenError &error)
 {
     return std::visit(Overloaded { [](NotARegularFile) {
                                       //: Error for a folder, pipe, socket or device in place of a document.
-                                      return QCoreApplication::translate("OpenError", "This is not a regular file.");
+                                      return Message(
+                                          "OpenError", QT_TRANSLATE_NOOP("OpenError", "This is not a regular file."));
                                   },
-                          [](const SystemError &systemError) { return systemError.description(); } },
+                          [](const SystemError &systemError) { return Message(systemError.description()); } },
         error);
 }
 

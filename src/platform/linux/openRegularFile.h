@@ -3,10 +3,10 @@
 #pragma once
 
 #include "platform/FileDescriptor.h"
+#include "platform/Message.h"
 #include "platform/Result.h"
 #include "platform/SystemError.h"
 #include <filesystem>
-#include <QString>
 #include <variant>
 
 namespace Varlo {
@@ -22,6 +22,6 @@ using OpenError = std::variant<NotARegularFile, SystemError>;
 [[nodiscard]] Result<FileDescriptor, OpenError> openRegularFile(const std::filesystem::path &path);
 
 /// The error in words for the user.
-[[nodiscard]] QString description(const OpenError &error);
+[[nodiscard]] Message description(const OpenError &error);
 
 } // namespace Varlo

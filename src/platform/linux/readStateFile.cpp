@@ -12,17 +12,17 @@ namespace Varlo {
 
 using Kind = StateFileError::Kind;
 
-QString StateFileError::description() const
+Message StateFileError::description() const
 {
     switch (kind) {
     case Kind::Missing:
-        return QCoreApplication::translate("StateFile", "It does not exist.");
+        return { "StateFile", QT_TRANSLATE_NOOP("StateFile", "It does not exist.") };
     case Kind::DanglingLink:
-        return QCoreApplication::translate("StateFile", "It is a link to a file that does not exist.");
+        return { "StateFile", QT_TRANSLATE_NOOP("StateFile", "It is a link to a file that does not exist.") };
     case Kind::NotRegular:
-        return QCoreApplication::translate("StateFile", "It is not a regular file.");
+        return { "StateFile", QT_TRANSLATE_NOOP("StateFile", "It is not a regular file.") };
     case Kind::TooLarge:
-        return QCoreApplication::translate("StateFile", "It is too large.");
+        return { "StateFile", QT_TRANSLATE_NOOP("StateFile", "It is too large.") };
     case Kind::System:
         return error.description();
     }

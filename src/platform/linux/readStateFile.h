@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "platform/Message.h"
 #include "platform/Result.h"
 #include "platform/SystemError.h"
 #include <filesystem>
@@ -22,7 +23,7 @@ struct StateFileError {
     SystemError error;
 
     /// For the user.
-    [[nodiscard]] QString description() const;
+    [[nodiscard]] Message description() const;
 };
 
 /// The whole content of a regular file of at most `sizeLimit` bytes. Never waits for a FIFO or a device.
