@@ -2,6 +2,25 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
+    <name>AppMenu</name>
+    <message>
+        <source>Menu bar</source>
+        <translation>Menubalk</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Zoek naar updates…</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Instellingen…</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Herstel</translation>
+    </message>
+</context>
+<context>
     <name>BottomBar</name>
     <message>
         <source>Add Files…</source>
@@ -425,6 +444,21 @@
     </message>
 </context>
 <context>
+    <name>GlobalMenu</name>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Zoek naar updates…</translation>
+    </message>
+    <message>
+        <source>Settings…</source>
+        <translation>Instellingen…</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Herstel</translation>
+    </message>
+</context>
+<context>
     <name>HistoryRow</name>
     <message>
         <source>was</source>
@@ -598,6 +632,13 @@
     </message>
 </context>
 <context>
+    <name>QuickLookSheet</name>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
     <name>RenameFailure</name>
     <message>
         <source>Not a valid file name.</source>
@@ -682,6 +723,14 @@
     <message>
         <source>Delete</source>
         <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>Rename All</source>
+        <translation>Alles hernoemen</translation>
+    </message>
+    <message>
+        <source>The history keeps the newest %1 renames, so the first %2 of these cannot be taken back later.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1053,6 +1102,17 @@
     <message>
         <source>No answer came in time.</source>
         <translation>Er kwam niet op tijd antwoord.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateSheet</name>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>Open Page</source>
+        <translation>Pagina openen</translation>
     </message>
 </context>
 <context>

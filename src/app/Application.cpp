@@ -2,12 +2,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Application.h"
 
+#include "app/rememberWindowSize.h"
+#include "app/WindowKeys.h"
 #include "platform/linux/FallbackSecretStore.h"
 #include "platform/linux/FileSecretStore.h"
 #include "platform/linux/SecretServiceStore.h"
 #include "suggestion/makeModelClient.h"
 #include "ui/IconProvider.h"
-#include <cstdio>
+#include <QDBusConnection>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDesktopServices>
+#include <QGuiApplication>
 #include <QQuickWindow>
 #include <QtQml/qqmlextensionplugin.h>
 
@@ -21,6 +27,13 @@ static QString environmentValue(const Environment &environment, const char *name
 {
     const auto variable = environment.find(name);
     return variable == environment.end() ? QString() : QString::fromStdString(variable->second);
+}
+
+/// Of a build that names one.
+static std::unique_ptr<UpdateChecker> updateChecker()
+{
+    auto feed = UpdateFeed::parse(QStringLiteral(VARLO_UPDATE_FEED), VARLO_UPDATE_KEY);
+    return feed ? std::make_unique<UpdateChecker>(std::move(*feed)) : nullptr;
 }
 
 Application::Application(const Environment &environment)
@@ -42,6 +55,7 @@ Application::Application(const Environment &environment)
     , m_historyView(m_renameLog, m_clock)
     , m_quickLook(*m_batch, m_reader)
     , m_watchedFolder(m_preferences, m_folderAccess, m_watcher, *m_batch)
+    , m_updater(updateChecker(), QVersionNumber::fromString(QStringLiteral(VARLO_VERSION)), &QDesktopServices::openUrl)
 {
 }
 
@@ -74,8 +88,62 @@ void Application::retranslate()
     m_engine.retranslate();
     m_batch->retranslate();
     m_historyView.retranslate();
+    m_updater.retranslate();
     emit m_templateChoices.changed();
     emit m_uiState.languageChanged();
+}
+
+void Application::activate(const QVariantMap &platformData)
+{
+    // Where Qt's Wayland part looks for the right to come to the front, and takes it from.
+    const QByteArray token = platformData.value(u"activation-token"_s).toString().toUtf8();
+    if (!token.isEmpty())
+        qputenv("XDG_ACTIVATION_TOKEN", token);
+    if (!m_window && !show())
+        return QGuiApplication::exit(1);
+    if (m_window->windowStates() & Qt::WindowMinimized)
+        m_window->showNormal();
+    m_window->raise();
+    m_window->requestActivate();
+}
+
+void Application::act(const QString &action)
+{
+    if (action == "settings"_L1)
+        m_uiState.setProperty("showingSettings", true);
+    else if (action == "history"_L1)
+        m_uiState.setProperty("showingHistory", true);
+    else if (action == "check-for-updates"_L1)
+        m_updater.checkForUpdates();
+}
+
+void Application::followDesktop(const QDBusConnection &bus)
+{
+    QObject::connect(&m_desktopMotion, &DesktopMotion::changed, &m_uiState,
+        [this] { m_uiState.setMotionWanted(m_desktopMotion.isWanted()); });
+    m_desktopMotion.follow(bus);
+    QDBusMessage question = QDBusMessage::createMethodCall(
+        u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s, u"org.freedesktop.DBus"_s, u"NameHasOwner"_s);
+    question << u"com.canonical.AppMenu.Registrar"_s;
+    auto *answer = new QDBusPendingCallWatcher(bus.asyncCall(question), &m_uiState);
+    QObject::connect(answer, &QDBusPendingCallWatcher::finished, &m_uiState, [this, answer] {
+        answer->deleteLater();
+        const QDBusPendingReply<bool> reply = *answer;
+        m_uiState.setProperty("hasGlobalMenu", !reply.isError() && reply.value());
+    });
+}
+
+void Application::finish()
+{
+    m_folderPanel.decline();
+    m_batch->stopRenaming();
+    m_batch->clear(); // an action that waits for its turn then finds nothing
+    if (!m_batch->isRenaming())
+        return QGuiApplication::quit();
+    QObject::connect(m_batch.get(), &RenamerViewModel::isRenamingChanged, QGuiApplication::instance(), [this] {
+        if (!m_batch->isRenaming())
+            QGuiApplication::quit();
+    });
 }
 
 QQuickWindow *Application::show()
@@ -87,11 +155,17 @@ QQuickWindow *Application::show()
         { u"templates"_s, QVariant::fromValue(&m_templateChoices) }, { u"watcher"_s, QVariant::fromValue(&m_watcher) },
         { u"watchedFolder"_s, QVariant::fromValue(&m_watchedFolder) },
         { u"quickLook"_s, QVariant::fromValue(&m_quickLook) },
-        { u"folderPanel"_s, QVariant::fromValue(&m_folderPanel) }, { u"uiState"_s, QVariant::fromValue(&m_uiState) } });
+        { u"folderPanel"_s, QVariant::fromValue(&m_folderPanel) }, { u"updater"_s, QVariant::fromValue(&m_updater) },
+        { u"uiState"_s, QVariant::fromValue(&m_uiState) } });
     m_engine.load(QUrl(u"qrc:/qt/qml/Varlo/ContentView.qml"_s));
     if (m_engine.rootObjects().isEmpty())
         return nullptr;
     auto *window = qobject_cast<QQuickWindow *>(m_engine.rootObjects().constFirst());
+    m_window = window;
+    rememberWindowSize(*window, m_preferences);
+    const auto *keys = new WindowKeys(window);
+    QObject::connect(keys, &WindowKeys::menuRequested, &m_uiState, &AppUIState::menuRequested);
+    QObject::connect(keys, &WindowKeys::undoRequested, &m_uiState, &AppUIState::undoRequested);
     // After the first frame, which would wait for neither.
     QObject::connect(
         window, &QQuickWindow::frameSwapped, window,

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/DesktopMotion.h"
 #include "app/FolderPanel.h"
 #include "extraction/IsolatedContentReader.h"
 #include "history/HistoryView.h"
@@ -18,11 +19,13 @@
 #include "templates/TemplateChoices.h"
 #include "ui/AppUIState.h"
 #include "ui/QuickLook.h"
+#include "updates/UpdaterModel.h"
 #include "workflow/RenamerViewModel.h"
 #include "workflow/WatchedFolder.h"
 #include <memory>
 #include <QQmlApplicationEngine>
 
+class QDBusConnection;
 class QQuickWindow;
 
 namespace Varlo {
@@ -36,6 +39,16 @@ public:
     /// Shows the main window; null, with a word on standard error, where it cannot be made.
     [[nodiscard]] QQuickWindow *show();
     [[nodiscard]] RenamerViewModel &batch() { return *m_batch; }
+    /// Null before it is first shown.
+    [[nodiscard]] QQuickWindow *window() const { return m_window; }
+    /// Shows the window, or brings it to the front with what the desktop gave for that.
+    void activate(const QVariantMap &platformData);
+    /// "settings", "history" or "check-for-updates".
+    void act(const QString &action);
+    /// Takes up what the desktop says about motion.
+    void followDesktop(const QDBusConnection &bus);
+    /// Ends the program, after the rename in hand.
+    void finish();
 
 private:
     [[nodiscard]] std::unique_ptr<NameSuggestionService> makeSuggester(const Environment &environment);
@@ -67,7 +80,10 @@ private:
     FolderWatcher m_watcher;
     WatchedFolder m_watchedFolder;
     AppUIState m_uiState;
+    UpdaterModel m_updater;
+    DesktopMotion m_desktopMotion;
     QQmlApplicationEngine m_engine;
+    QQuickWindow *m_window = nullptr; // the engine's
 };
 
 } // namespace Varlo

@@ -26,9 +26,12 @@ double AppUIState::textScale() const
     return std::clamp(QFontInfo(QGuiApplication::font()).pixelSize() / 13.0, 1.0, 1.6);
 }
 
-bool AppUIState::isAnimated() const
+bool AppUIState::isAnimated() const { return m_isMotionWanted && !qEnvironmentVariableIsSet("VARLO_NO_ANIMATIONS"); }
+
+void AppUIState::setMotionWanted(bool isWanted)
 {
-    return !qEnvironmentVariableIsSet("VARLO_NO_ANIMATIONS"); // what desktops say arrives with the shell
+    m_isMotionWanted = isWanted;
+    emit motionChanged();
 }
 
 QString AppUIState::localeName() const { return QLocale().name(); }

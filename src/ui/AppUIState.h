@@ -13,8 +13,10 @@ class AppUIState : public QObject {
     Q_PROPERTY(bool showingSettings MEMBER m_showingSettings NOTIFY shownChanged)
     Q_PROPERTY(bool showingHistory MEMBER m_showingHistory NOTIFY shownChanged)
     Q_PROPERTY(bool showingFormats MEMBER m_showingFormats NOTIFY shownChanged)
+    /// The desktop shows the menus of all windows in one place.
+    Q_PROPERTY(bool hasGlobalMenu MEMBER m_hasGlobalMenu NOTIFY shownChanged)
     Q_PROPERTY(double textScale READ textScale CONSTANT)
-    Q_PROPERTY(bool isAnimated READ isAnimated CONSTANT)
+    Q_PROPERTY(bool isAnimated READ isAnimated NOTIFY motionChanged)
     Q_PROPERTY(QString localeName READ localeName NOTIFY languageChanged)
     Q_PROPERTY(int supportedCount READ supportedCount CONSTANT)
     /// Each with title, extensions and isComingSoon.
@@ -30,7 +32,9 @@ public:
 
     /// The desktop's text size beside the one the window was drawn for (13 pixels): 1 to 1.6.
     [[nodiscard]] double textScale() const;
+    /// Whether things may move: the desktop wants it, and VARLO_NO_ANIMATIONS is not set.
     [[nodiscard]] bool isAnimated() const;
+    void setMotionWanted(bool isWanted);
     [[nodiscard]] QString localeName() const;
     [[nodiscard]] int supportedCount() const;
     [[nodiscard]] QVariantList formatSections() const;
@@ -41,11 +45,18 @@ public:
 signals:
     void shownChanged();
     void languageChanged();
+    void motionChanged();
+    /// Alt was pressed and released.
+    void menuRequested();
+    /// Typing is to be undone, or else the latest rename.
+    void undoRequested();
 
 private:
     bool m_showingSettings = false;
     bool m_showingHistory = false;
     bool m_showingFormats = false;
+    bool m_hasGlobalMenu = false;
+    bool m_isMotionWanted = true;
 };
 
 } // namespace Varlo

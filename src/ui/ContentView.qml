@@ -17,6 +17,7 @@ Window {
     property var folderPanel: null
     property QuickLook quickLook: null
     required property AppUIState uiState
+    property UpdaterModel updater: null
 
     readonly property bool isNarrow: width < 880 * Theme.textScale
     readonly property bool isEmpty: batch.count === 0
@@ -46,15 +47,13 @@ Window {
     Command { sequences: ["Ctrl+Shift+Return", "Ctrl+Shift+Enter"]; onActivated: sheets.renameEverything() }
     Command { sequences: ["Ctrl+H", "Ctrl+Y"]; onActivated: window.uiState.showingHistory = true }
     Command { sequence: "Ctrl+R"; onActivated: if (content.list) content.list.renameCurrent() }
-    Command {
-        sequence: "Ctrl+Z"
-        onActivated: {
-            const row = content.list ? content.list.currentRow : null;
-            if (row && row.canUndoTyping)
-                row.undoTyping();
-            else
-                window.history.revertLatest();
-        }
+    Command { sequence: "Ctrl+,"; onActivated: window.uiState.showingSettings = true }
+    Command { sequence: "F10"; onActivated: window.toggleMenu() }
+    Shortcut { sequences: ["Ctrl+Q", "Ctrl+W"]; onActivated: window.close() }
+    Connections {
+        target: window.uiState
+        function onMenuRequested() { if (!window.hasSheet) window.toggleMenu(); }
+        function onUndoRequested() { window.undo(window.activeFocusItem); }
     }
     Command { sequence: "F6"; onActivated: window.goToRegion(1) }
     Command { sequence: "Shift+F6"; onActivated: window.goToRegion(-1) }
@@ -62,6 +61,19 @@ Window {
     readonly property string historyError: history.lastError
     onHistoryErrorChanged: if (historyError !== "") uiState.showingHistory = true // Ctrl+Z can fail too
 
+    property Item focusBeforeMenu: null
+    function toggleMenu() {
+        focusBeforeMenu = activeFocusItem;
+        menu.active = true;
+        menu.bar.toggle();
+    }
+    /// Takes back what was typed in the field that has the keyboard, else the latest rename that stands.
+    function undo(focused: var) {
+        if (focused && focused.canUndo === true)
+            focused.undo();
+        else if (!hasSheet || uiState.showingHistory)
+            history.revertLatest();
+    }
     function goToRegion(by: int) {
         const regions = Array.from([top, notices, panel, bottom]).filter(item => item.visible && item.height > 0);
         let at = regions.findIndex(region => {
@@ -82,6 +94,19 @@ Window {
         anchors.fill: parent
         spacing: 0
 
+        Loader {
+            id: menu
+            readonly property AppMenu bar: item as AppMenu
+            active: false
+            visible: bar !== null && bar.isShown
+            Layout.fillWidth: true
+            sourceComponent: AppMenu {
+                canCheckForUpdates: window.updater !== null && window.updater.canCheckForUpdates
+                onUpdatesRequested: window.updater.checkForUpdates()
+                onSettingsRequested: window.uiState.showingSettings = true
+                onUndoRequested: window.undo(window.focusBeforeMenu)
+            }
+        }
         TopBar {
             id: top
             Layout.fillWidth: true
@@ -102,31 +127,38 @@ Window {
             spacing: 8
             visible: window.hasNotice
 
-            Banner {
-                id: banner
-                visible: window.batch.isNothingRenameable
+            // Not there before they are needed: a hidden layout whose words change language goes in circles.
+            component OnDemand: Loader {
+                visible: active
                 Layout.fillWidth: true
-                iconName: "folder-question"
-                title: qsTr("Nothing here Varlo can rename.")
-                below: SupportedFormatsLine {
-                    count: window.uiState.supportedCount
-                    ink: "#5E4A22"
-                    linkInk: Theme.warn
-                    onViewAllRequested: window.uiState.showingFormats = true
-                }
-                buttons: SecondaryButton {
-                    isSmall: true
-                    ground: Theme.warnTint
-                    text: qsTr("Dismiss")
-                    onClicked: window.batch.dismissDropFeedback()
+            }
+            OnDemand {
+                id: banner
+                active: window.batch.isNothingRenameable
+                sourceComponent: Banner {
+                    iconName: "folder-question"
+                    title: qsTr("Nothing here Varlo can rename.")
+                    below: SupportedFormatsLine {
+                        count: window.uiState.supportedCount
+                        ink: "#5E4A22"
+                        linkInk: Theme.warn
+                        onViewAllRequested: window.uiState.showingFormats = true
+                    }
+                    buttons: SecondaryButton {
+                        isSmall: true
+                        ground: Theme.warnTint
+                        text: qsTr("Dismiss")
+                        onClicked: window.batch.dismissDropFeedback()
+                    }
                 }
             }
-            Banner {
+            OnDemand {
                 id: keyBanner
-                visible: window.batch.isKeyMissing
-                Layout.fillWidth: true
-                iconName: "key"
-                title: qsTr("No API key set.")
+                active: window.batch.isKeyMissing
+                sourceComponent: Banner {
+                    iconName: "key"
+                    title: qsTr("No API key set.")
+                }
             }
             WatcherStrip {
                 id: strip
@@ -223,6 +255,10 @@ Window {
         }
     }
 
+    Loader {
+        active: window.uiState.hasGlobalMenu
+        Component.onCompleted: setSource("GlobalMenu.qml", { contentView: window })
+    }
     Sheets {
         id: sheets
         contentView: window

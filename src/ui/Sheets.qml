@@ -9,7 +9,7 @@ Item {
 
     required property var contentView
     readonly property var uiState: contentView.uiState
-    readonly property bool hasOpenSheet: history.isShown || formats.isShown || deletion.isShown
+    readonly property bool hasOpenSheet: history.isShown || formats.isShown || update.isShown || deletion.isShown
         || quickLook.isShown || forgetting.isShown
     function chooseFiles() { loadedChoosers().chooseFiles(); }
     function chooseFolder() { loadedChoosers().chooseFolder(); }
@@ -69,7 +69,10 @@ Item {
     OnDemand {
         id: formats
         isWanted: sheets.uiState.showingFormats
-        onDismissed: sheets.uiState.showingFormats = false
+        onDismissed: {
+            sheets.uiState.showingFormats = false;
+            active = false; // its words may be in another language the next time
+        }
         file: "FormatsSheet.qml"
         given: ({ sections: sheets.uiState.formatSections })
     }
@@ -79,6 +82,13 @@ Item {
         onDismissed: sheets.contentView.quickLook.close()
         file: "QuickLookSheet.qml"
         given: ({ look: sheets.contentView.quickLook })
+    }
+    OnDemand {
+        id: update
+        isWanted: sheets.contentView.updater !== null && sheets.contentView.updater.isShown
+        onDismissed: sheets.contentView.updater.dismiss()
+        file: "UpdateSheet.qml"
+        given: ({ updater: sheets.contentView.updater })
     }
     Loader {
         id: deletion

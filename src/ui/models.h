@@ -6,6 +6,7 @@
 #include "templates/TemplateChoices.h"
 #include "ui/AppUIState.h"
 #include "ui/QuickLook.h"
+#include "updates/UpdaterModel.h"
 #include "workflow/RenamerViewModel.h"
 #include <QtQml/qqml.h>
 
@@ -34,6 +35,12 @@ struct ForeignQuickLook {
     Q_GADGET
     QML_FOREIGN(Varlo::QuickLook)
     QML_NAMED_ELEMENT(QuickLook)
+    QML_UNCREATABLE("made at start-up")
+};
+struct ForeignUpdaterModel {
+    Q_GADGET
+    QML_FOREIGN(Varlo::UpdaterModel)
+    QML_NAMED_ELEMENT(UpdaterModel)
     QML_UNCREATABLE("made at start-up")
 };
 struct ForeignAppUIState {
