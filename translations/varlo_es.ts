@@ -730,7 +730,7 @@
     </message>
     <message>
         <source>The history keeps the newest %1 renames, so the first %2 of these cannot be taken back later.</source>
-        <translation type="unfinished"></translation>
+        <translation>El historial guarda los %1 cambios más recientes, así que los primeros %2 de estos no se podrán revertir después.</translation>
     </message>
 </context>
 <context>

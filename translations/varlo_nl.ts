@@ -730,7 +730,7 @@
     </message>
     <message>
         <source>The history keeps the newest %1 renames, so the first %2 of these cannot be taken back later.</source>
-        <translation type="unfinished"></translation>
+        <translation>De geschiedenis bewaart de nieuwste %1 hernoemingen; de eerste %2 hiervan zijn later dus niet terug te zetten.</translation>
     </message>
 </context>
 <context>
