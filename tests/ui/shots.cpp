@@ -2,11 +2,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Renders every screen of the window to pictures, with the same files and the same day each time:
 //     varlo-shots FOLDER [WORD...]
-// writes those screens whose names contain one of the words, or all. Fails where a screen has Qt warn of anything, and
-// where some text in it would be taken for markup.
+// writes those screens whose names contain one of the words, or all, and each in Dutch and Spanish too. Fails where a
+// screen has Qt warn of anything, where some text in it would be taken for markup, and where a control's words are cut.
 #include "fakes/FakeClock.h"
 #include "fakes/FakePreviewReader.h"
 #include "history/HistoryView.h"
+#include "languages/InterfaceLanguage.h"
 #include "platform/pathExtension.h"
 #include "platform/shownPath.h"
 #include "templates/TemplateChoices.h"
@@ -19,8 +20,10 @@
 #include <functional>
 #include <QCoroFuture>
 #include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
+#include <QQmlContext>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTest>
@@ -73,8 +76,9 @@ private:
 /// A batch in its window, and what to do with both.
 class Stage {
 public:
-    Stage()
+    explicit Stage(const QString &languageCode)
     {
+        static_cast<void>(preferences.set(Preference::uiLanguage, languageCode));
         engine.addImportPath(u"qrc:/qt/qml"_s);
         engine.addImageProvider(u"icons"_s, new IconProvider);
         clock.time = QDateTime(QDate(2026, 3, 14), QTime(15, 9, 26));
@@ -116,6 +120,8 @@ public:
     std::filesystem::path home = temporary.path().toStdString();
     FakePreferenceStore store;
     Preferences preferences { store };
+    FakeSystemLocale locale;
+    InterfaceLanguage language { preferences, locale };
     TemplateStore templates { preferences };
     FakeClock clock;
     FakeFolderAccessPanel panel;
@@ -125,7 +131,6 @@ public:
     RenameLog log { preferences, renamer, access };
     FakeContentReader reader;
     SampleSuggester suggester;
-    FakeSystemLocale locale;
     RenamerViewModel batch { RenamerViewModel::Collaborators {
         reader, suggester, templates, log, renamer, access, nullptr, preferences, locale } };
     TemplateChoices choices { templates, [] { return FilenameLanguage::English; } };
@@ -206,10 +211,18 @@ static void fillHistory(Stage &stage)
     stage.batch.clear();
 }
 
+/// The words of a button in the interface's language.
+static QString translated(const QObject *object, const QString &english)
+{
+    const QQmlContext *context = qmlContext(object);
+    const QString file = context ? QFileInfo(context->baseUrl().path()).baseName() : QString();
+    return QCoreApplication::translate(file.toUtf8().constData(), english.toUtf8().constData());
+}
+
 static void press(Stage &stage, const QString &accessibleName)
 {
     for (QObject *object : stage.window->findChildren<QObject *>()) {
-        if (object->property("text").toString() == accessibleName
+        if (object->property("text").toString() == translated(object, accessibleName)
             && object->metaObject()->indexOfSignal("clicked()") >= 0) {
             QMetaObject::invokeMethod(object, "clicked");
             return;
@@ -266,6 +279,11 @@ static const std::map<QString, std::function<void(Stage &)>> &screens()
             [](Stage &stage) {
                 stage.window->resize(720, 560);
                 fillWithEveryStatus(stage);
+            } },
+        { u"main-menu"_s,
+            [](Stage &stage) {
+                fillForReview(stage);
+                QMetaObject::invokeMethod(stage.window, "toggleMenu");
             } },
         { u"popover-language"_s,
             [](Stage &stage) {
@@ -357,6 +375,26 @@ static void checkThatTextsArePlain(const QQuickItem *item)
         checkThatTextsArePlain(child);
 }
 
+/// Words that say what a control does are never cut. What a picker shows is somebody's choice, and may be.
+static void checkThatWordsFit(const QQuickItem *item, const QQuickItem *control = nullptr)
+{
+    if (!item->isVisible())
+        return;
+    const QByteArray type = item->metaObject()->className();
+    if (type.startsWith("OptionPicker") || type.startsWith("TemplatePicker") || type.startsWith("PopoverPickerRow"))
+        return;
+    if (item->inherits("QQuickAbstractButton") || type.startsWith("StatusPill"))
+        control = item;
+    if (control && item->inherits("QQuickText")) {
+        const qreal width = item->property("contentWidth").toReal();
+        const QRectF words = item->mapRectToItem(control, QRectF(0, 0, width, item->height()));
+        if (item->property("truncated").toBool() || words.left() < -0.5 || words.right() > control->width() + 0.5)
+            qWarning() << "cut:" << item->property("text");
+    }
+    for (const QQuickItem *child : item->childItems())
+        checkThatWordsFit(child, control);
+}
+
 int main(int argumentCount, char **arguments)
 {
     qInstallMessageHandler(complain);
@@ -364,7 +402,6 @@ int main(int argumentCount, char **arguments)
     qputenv("QT_QUICK_BACKEND", "software");
     QGuiApplication application(argumentCount, arguments);
     chooseFonts();
-    QLocale::setDefault(QLocale(u"en_US"_s));
     const QStringList words = QGuiApplication::arguments().mid(2);
     const QDir folder(QGuiApplication::arguments().value(1, u"."_s));
     folder.mkpath(u"."_s);
@@ -373,13 +410,16 @@ int main(int argumentCount, char **arguments)
             || std::ranges::any_of(words, [&name = name](const QString &word) { return name.contains(word); });
         if (!isWanted)
             continue;
-        Stage stage;
-        stage.window->show();
-        setUp(stage);
-        QTest::qWait(300);
-        checkThatTextsArePlain(stage.window->contentItem());
-        stage.grab(folder.filePath(name + u".png"_s));
-        stage.batch.clear();
+        for (const QString &code : { u"en"_s, u"nl"_s, u"es"_s }) {
+            Stage stage(code);
+            stage.window->show();
+            setUp(stage);
+            QTest::qWait(300);
+            checkThatTextsArePlain(stage.window->contentItem());
+            checkThatWordsFit(stage.window->contentItem());
+            stage.grab(folder.filePath(name + (code == "en"_L1 ? QString() : u'-' + code) + u".png"_s));
+            stage.batch.clear();
+        }
     }
     std::_Exit(complaints > 0 ? 1 : 0); // the run that is held never ends
 }
