@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/FolderPanel.h"
 
+#include "platform/localPath.h"
 #include "renaming/FolderAccess.h"
 #include <QCoroFuture>
 
@@ -23,8 +24,7 @@ QCoro::Task<Folder> FolderPanel::ask(std::filesystem::path folder)
     m_question = std::make_unique<QPromise<Folder>>();
     m_question->start();
     QFuture<Folder> answered = m_question->future();
-    const QByteArray bytes = QByteArray::fromStdString(folder.native());
-    emit asked(QUrl::fromEncoded("file://" + bytes.toPercentEncoding("/")));
+    emit asked(localUrl(folder));
     Folder chosen = co_await answered;
     co_return chosen;
 }
@@ -33,11 +33,7 @@ QString FolderPanel::message() const { return FolderAccess::panelMessage(); }
 
 QString FolderPanel::confirmation() const { return FolderAccess::panelConfirmation(); }
 
-void FolderPanel::choose(const QUrl &folder)
-{
-    const QByteArray path = QByteArray::fromPercentEncoding(folder.path(QUrl::FullyEncoded).toLatin1());
-    answer(std::filesystem::path(path.toStdString()));
-}
+void FolderPanel::choose(const QUrl &folder) { answer(localPath(folder)); }
 
 void FolderPanel::decline() { answer({}); }
 

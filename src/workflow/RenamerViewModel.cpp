@@ -3,6 +3,7 @@
 #include "workflow/RenamerViewModel.h"
 
 #include "platform/Characters.h"
+#include "platform/localPath.h"
 #include "platform/pathExtension.h"
 #include "platform/shownPath.h"
 #include "platform/visibleText.h"
@@ -621,15 +622,6 @@ void RenamerViewModel::retranslate()
 }
 
 void RenamerViewModel::announce(int row, const QList<int> &roles) { emit dataChanged(index(row), index(row), roles); }
-
-/// The bytes of a local file's name, which need not be UTF-8: QUrl::toLocalFile() would spoil them.
-static std::optional<std::filesystem::path> localPath(const QUrl &url)
-{
-    if (!url.isLocalFile())
-        return {};
-    const QByteArray path = QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
-    return std::filesystem::path(path.toStdString());
-}
 
 void RenamerViewModel::addUrls(const QList<QUrl> &urls)
 {
