@@ -805,12 +805,12 @@
         <translation>Título</translation>
     </message>
     <message>
-        <source>Type</source>
-        <translation>Tipo de documento</translation>
-    </message>
-    <message>
         <source>Parties</source>
         <translation>Partes</translation>
+    </message>
+    <message>
+        <source>Document type</source>
+        <translation>Tipo de documento</translation>
     </message>
 </context>
 <context>

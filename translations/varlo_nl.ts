@@ -805,12 +805,12 @@
         <translation>Titel</translation>
     </message>
     <message>
-        <source>Type</source>
-        <translation>Documenttype</translation>
-    </message>
-    <message>
         <source>Parties</source>
         <translation>Partijen</translation>
+    </message>
+    <message>
+        <source>Document type</source>
+        <translation>Documenttype</translation>
     </message>
 </context>
 <context>

@@ -50,7 +50,7 @@ QString label(TemplateField field)
     case TemplateField::Title:
         return QCoreApplication::translate("TemplateField", "Title");
     case TemplateField::DocumentType:
-        return QCoreApplication::translate("TemplateField", "Type");
+        return QCoreApplication::translate("TemplateField", "Document type");
     case TemplateField::Parties:
         return QCoreApplication::translate("TemplateField", "Parties");
     }

@@ -17,11 +17,21 @@ TemplateChoices::TemplateChoices(TemplateStore &store, std::function<FilenameLan
     connect(&store, &TemplateStore::changed, this, &TemplateChoices::changed);
 }
 
+/// The fields' labels, in their order.
+static QString structure(const NameTemplate &nameTemplate)
+{
+    QStringList labels;
+    for (const TemplateField field : nameTemplate.fields)
+        labels.append(label(field));
+    return labels.join(u" · "_s);
+}
+
 QVariantList TemplateChoices::choices() const
 {
     QVariantList all;
     for (const NameTemplate &nameTemplate : m_store.templates()) {
         all.append(QVariantMap { { u"id"_s, nameTemplate.id }, { u"name"_s, visibleText(templateTitle(nameTemplate)) },
+            { u"structure"_s, structure(nameTemplate) },
             { u"isBuiltIn"_s, builtInTemplateName(nameTemplate.id).has_value() },
             { u"example"_s, visibleText(nameTemplate.exampleName(m_language())) } });
     }

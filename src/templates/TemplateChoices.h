@@ -10,7 +10,8 @@ namespace Varlo {
 /// The templates as a window offers them.
 class TemplateChoices final : public QObject {
     Q_OBJECT
-    /// In their order, each with id, name (its title), isBuiltIn and example (a name made by it).
+    /// In their order, each with id, name (its title), structure (its fields), isBuiltIn and example (a name made
+    /// by it).
     Q_PROPERTY(QVariantList choices READ choices NOTIFY changed)
 public:
     /// The store outlives this object; examples are in the language that `language` answers.
