@@ -96,6 +96,13 @@
     </message>
 </context>
 <context>
+    <name>ConfiguredNameSuggester</name>
+    <message>
+        <source>The part of Varlo that asks a model is not installed.</source>
+        <translation>La parte de Varlo que consulta un modelo no está instalada.</translation>
+    </message>
+</context>
+<context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
@@ -629,6 +636,14 @@
         <source>This is not a regular file.</source>
         <extracomment>Error for a folder, pipe, socket or device in place of a document.</extracomment>
         <translation>Esto no es un archivo normal.</translation>
+    </message>
+</context>
+<context>
+    <name>ProviderModel</name>
+    <message>
+        <source>The model answers. It suggested “%1”.</source>
+        <extracomment>What came of trying out the model; %1 is the file name that it suggested for a sample</extracomment>
+        <translation>El modelo responde. Ha sugerido “%1”.</translation>
     </message>
 </context>
 <context>

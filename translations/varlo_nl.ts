@@ -96,6 +96,13 @@
     </message>
 </context>
 <context>
+    <name>ConfiguredNameSuggester</name>
+    <message>
+        <source>The part of Varlo that asks a model is not installed.</source>
+        <translation>Het onderdeel van Varlo dat een model raadpleegt, is niet geïnstalleerd.</translation>
+    </message>
+</context>
+<context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
@@ -629,6 +636,14 @@
         <source>This is not a regular file.</source>
         <extracomment>Error for a folder, pipe, socket or device in place of a document.</extracomment>
         <translation>Dit is geen gewoon bestand.</translation>
+    </message>
+</context>
+<context>
+    <name>ProviderModel</name>
+    <message>
+        <source>The model answers. It suggested “%1”.</source>
+        <extracomment>What came of trying out the model; %1 is the file name that it suggested for a sample</extracomment>
+        <translation>Het model antwoordt. Het stelde “%1” voor.</translation>
     </message>
 </context>
 <context>

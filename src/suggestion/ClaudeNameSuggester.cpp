@@ -172,7 +172,7 @@ ClaudeNameSuggester::ClaudeNameSuggester(
     Endpoint endpoint, QString model, KeyLoader loadKey, QObject *parent, RequestLimits limits)
     : QObject(parent)
     , m_endpoint(std::move(endpoint))
-    , m_model(model.isEmpty() ? u"claude-haiku-4-5"_s : std::move(model))
+    , m_model(model.isEmpty() ? QString::fromLatin1(usualModel) : std::move(model))
     , m_loadKey(std::move(loadKey))
     , m_limits(limits)
 {

@@ -12,6 +12,8 @@ namespace Varlo {
 
 using KeyLoader = std::function<QCoro::Task<Result<QString, SecretStore::Failure>>()>;
 
+inline constexpr char usualModel[] = "claude-haiku-4-5";
+
 /// A service that asks the model at the endpoint; `model` "" stands for the usual one. `loadKey` is called afresh for
 /// each request. The client and Qt's network library are loaded here. Null where they are not installed.
 [[nodiscard]] std::unique_ptr<NameSuggestionService> makeModelClient(
