@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>AboutPane</name>
+    <message>
+        <source>Version </source>
+        <translation>Versión </translation>
+    </message>
+    <message>
+        <source>Renames files fast based on their contents.</source>
+        <translation>Renombra archivos rápidamente según su contenido.</translation>
+    </message>
+    <message>
+        <source>Use your own provider</source>
+        <translation>Usa tu propio proveedor</translation>
+    </message>
+    <message>
+        <source>Your own key is in use.</source>
+        <translation>Se está usando tu propia clave.</translation>
+    </message>
+    <message>
+        <source>No API key set.</source>
+        <translation>No hay ninguna clave de API.</translation>
+    </message>
+    <message>
+        <source>Supported formats</source>
+        <translation>Formatos compatibles</translation>
+    </message>
+    <message>
+        <source>The file types Varlo can read.</source>
+        <translation>Los tipos de archivo que Varlo puede leer.</translation>
+    </message>
+    <message>
+        <source>View List</source>
+        <translation>Ver lista</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Sitio web</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>Correo</translation>
+    </message>
+    <message>
+        <source>Questions, problems, or feedback.</source>
+        <translation>Preguntas, problemas o comentarios.</translation>
+    </message>
+    <message>
+        <source>Contact support</source>
+        <translation>Contactar con soporte</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>Documentación</translation>
+    </message>
+</context>
+<context>
     <name>AppMenu</name>
     <message>
         <source>Menu bar</source>
@@ -60,6 +115,25 @@
     <message>
         <source>Select Folder…</source>
         <translation>Seleccionar carpeta…</translation>
+    </message>
+    <message>
+        <source>Choose a folder to let Varlo rename the files inside it.</source>
+        <extracomment>Open-panel message for granting access to one specific folder</extracomment>
+        <translation>Elige una carpeta para que Varlo pueda renombrar los archivos que contiene.</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <extracomment>Open-panel confirm button granting folder access</extracomment>
+        <translation>Permitir</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Elegir carpeta…</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <extracomment>Confirm button of the chooser of the watched folder</extracomment>
+        <translation>Elegir</translation>
     </message>
 </context>
 <context>
@@ -122,6 +196,14 @@
     <message>
         <source>No API key set.</source>
         <translation>No hay ninguna clave de API.</translation>
+    </message>
+    <message>
+        <source>Paste your own API key from your chosen provider.</source>
+        <translation>Pega tu propia clave de API del proveedor que elijas.</translation>
+    </message>
+    <message>
+        <source>Use your own provider</source>
+        <translation>Usa tu propio proveedor</translation>
     </message>
 </context>
 <context>
@@ -336,6 +418,18 @@
     </message>
 </context>
 <context>
+    <name>FieldChip</name>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>The place of a field in a template: %1 of %2</extracomment>
+        <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>Remove Field</source>
+        <translation>Quitar campo</translation>
+    </message>
+</context>
+<context>
     <name>FileItem</name>
     <message>
         <source>Pending</source>
@@ -433,6 +527,49 @@
     </message>
 </context>
 <context>
+    <name>FoldersPane</name>
+    <message>
+        <source>Full access</source>
+        <translation>Acceso completo</translation>
+    </message>
+    <message>
+        <source>Varlo renames by controlling Finder — one quick “Allow” lets it rename files anywhere, with no folder picking.</source>
+        <translation>Varlo renombra controlando Finder: con un solo «Permitir» puede renombrar en cualquier lugar, sin elegir carpetas.</translation>
+    </message>
+    <message>
+        <source>Grant access to entire Finder (so all files)</source>
+        <translation>Dar acceso a todo Finder (es decir, a todos los archivos)</translation>
+    </message>
+    <message>
+        <source>Varlo never reads your whole disk — it only opens the files you give it and asks Finder to do the renaming. Change this anytime in System Settings ▸ Privacy &amp; Security ▸ Automation.</source>
+        <translation>Varlo nunca lee todo tu disco: solo abre los archivos que le das y pide a Finder que los renombre. Puedes cambiarlo cuando quieras en Ajustes del Sistema ▸ Privacidad y seguridad ▸ Automatización.</translation>
+    </message>
+    <message>
+        <source>Or allow specific folders</source>
+        <translation>O permite carpetas concretas</translation>
+    </message>
+    <message>
+        <source>Prefer not to grant Finder control? Add the folders you rename in, and Varlo won&apos;t ask each time.</source>
+        <translation>¿Prefieres no dar control de Finder? Añade las carpetas donde renombras y Varlo no preguntará cada vez.</translation>
+    </message>
+    <message>
+        <source>Choose a folder to let Varlo rename the files inside it.</source>
+        <translation>Elige una carpeta para que Varlo pueda renombrar los archivos que contiene.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>No folders allowed yet.</source>
+        <translation>Aún no hay carpetas permitidas.</translation>
+    </message>
+    <message>
+        <source>Add Folder…</source>
+        <translation>Añadir carpeta…</translation>
+    </message>
+</context>
+<context>
     <name>Formats</name>
     <message>
         <source>Coming soon</source>
@@ -463,6 +600,13 @@
     <message>
         <source>Undo</source>
         <translation>Deshacer</translation>
+    </message>
+</context>
+<context>
+    <name>GrantedMark</name>
+    <message>
+        <source>Granted</source>
+        <translation>Concedido</translation>
     </message>
 </context>
 <context>
@@ -540,6 +684,21 @@
     <message>
         <source>The settings in &quot;%1&quot; could not be read, and the default settings hold: %2</source>
         <translation>No se pudieron leer los ajustes de &quot;%1&quot; y valen los predeterminados: %2</translation>
+    </message>
+</context>
+<context>
+    <name>LanguagePane</name>
+    <message>
+        <source>Interface language</source>
+        <translation>Idioma de la interfaz</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>Sistema</translation>
+    </message>
+    <message>
+        <source>Filename language is set in the main window.</source>
+        <translation>El idioma de los nombres se elige en la ventana principal.</translation>
     </message>
 </context>
 <context>
@@ -639,6 +798,66 @@
     </message>
 </context>
 <context>
+    <name>ProviderKeySheet</name>
+    <message>
+        <source>Use your own provider</source>
+        <translation>Usa tu propio proveedor</translation>
+    </message>
+    <message>
+        <source>Paste your own API key from your chosen provider.</source>
+        <translation>Pega tu propia clave de API del proveedor que elijas.</translation>
+    </message>
+    <message>
+        <source>Your own key is in use.</source>
+        <translation>Se está usando tu propia clave.</translation>
+    </message>
+    <message>
+        <source>New API key</source>
+        <translation>Nueva clave de API</translation>
+    </message>
+    <message>
+        <source>API key</source>
+        <translation>Clave de API</translation>
+    </message>
+    <message>
+        <source>Remove Key</source>
+        <translation>Quitar clave</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Server address</source>
+        <translation>Dirección del servidor</translation>
+    </message>
+    <message>
+        <source>AI model</source>
+        <translation>Modelo de IA</translation>
+    </message>
+    <message>
+        <source>Your files go to this server and nowhere else. A key goes only to the server it was saved for.</source>
+        <translation>Tus archivos van a este servidor y a ningún otro sitio. Una clave solo va al servidor para el que se guardó.</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Probar</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <extracomment>Uses the server address and the model that were typed</extracomment>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>Waiting for an answer…</source>
+        <translation>Esperando respuesta…</translation>
+    </message>
+</context>
+<context>
     <name>ProviderModel</name>
     <message>
         <source>The model answers. It suggested “%1”.</source>
@@ -723,6 +942,46 @@
     </message>
 </context>
 <context>
+    <name>SettingsView</name>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Plantillas</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Carpetas</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Etiquetas</translation>
+    </message>
+    <message>
+        <source>Watch Folder</source>
+        <translation>Carpeta vigilada</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Acerca de</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <extracomment>%1 is the system&apos;s own reason, as &quot;No space left on device&quot;</extracomment>
+        <translation>No se pudo guardar el ajuste: %1</translation>
+    </message>
+</context>
+<context>
     <name>SheetHeader</name>
     <message>
         <source>Close</source>
@@ -802,6 +1061,50 @@
     </message>
 </context>
 <context>
+    <name>TagsPane</name>
+    <message>
+        <source>Add Finder tags to renamed files</source>
+        <translation>Añadir etiquetas del Finder a los archivos renombrados</translation>
+    </message>
+    <message>
+        <source>When on, Varlo suggests a few keyword tags for each file and writes them as Finder tags when you rename. You&apos;ll see the tags before they&apos;re applied.</source>
+        <translation>Si está activado, Varlo sugiere unas palabras clave por archivo y las escribe como etiquetas del Finder al renombrar. Verás las etiquetas antes de que se apliquen.</translation>
+    </message>
+    <message>
+        <source>2025-03-14 - Acme - Hosting plan - 174.24 EUR.pdf</source>
+        <extracomment>A file name, as an example of what Varlo makes</extracomment>
+        <translation>2025-03-14 - Acme - Plan de alojamiento - 174,24 EUR.pdf</translation>
+    </message>
+    <message>
+        <source>invoice,hosting,acme</source>
+        <extracomment>Keyword tags of a file, as an example, with commas between them</extracomment>
+        <translation>factura,alojamiento,acme</translation>
+    </message>
+</context>
+<context>
+    <name>TemplateEditorSection</name>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Sin título</translation>
+    </message>
+    <message>
+        <source>Add Field</source>
+        <translation>Añadir campo</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <source>Delete Template…</source>
+        <translation>Eliminar plantilla…</translation>
+    </message>
+</context>
+<context>
     <name>TemplateField</name>
     <message>
         <source>Date</source>
@@ -861,6 +1164,33 @@
     <message>
         <source>No fixed template — the AI picks the best name structure for each file.</source>
         <translation>Sin plantilla fija: la IA elige la mejor estructura para cada archivo.</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Plantillas</translation>
+    </message>
+    <message>
+        <source>New Template…</source>
+        <translation>Nueva plantilla…</translation>
+    </message>
+</context>
+<context>
+    <name>TemplatesPane</name>
+    <message>
+        <source>How suggested names are built. Pick one per batch in the main window.</source>
+        <translation>Cómo se construyen los nombres sugeridos. Elige una por lote en la ventana principal.</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>Ajustes predeterminados</translation>
+    </message>
+    <message>
+        <source>No fixed template — the AI picks the best name structure for each file.</source>
+        <translation>Sin plantilla fija: la IA elige la mejor estructura para cada archivo.</translation>
+    </message>
+    <message>
+        <source>New Template…</source>
+        <translation>Nueva plantilla…</translation>
     </message>
 </context>
 <context>
@@ -1102,6 +1432,10 @@
         <source>History</source>
         <translation>Historial</translation>
     </message>
+    <message>
+        <source>Settings</source>
+        <translation>Ajustes</translation>
+    </message>
 </context>
 <context>
     <name>UpdateChecker</name>
@@ -1174,6 +1508,29 @@
     <message>
         <source>You have version %1.</source>
         <translation>Tienes la versión %1.</translation>
+    </message>
+</context>
+<context>
+    <name>WatchPane</name>
+    <message>
+        <source>Suggest names for new files automatically</source>
+        <translation>Sugerir nombres para archivos nuevos automáticamente</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Elegir carpeta…</translation>
+    </message>
+    <message>
+        <source>Also include files already in this folder</source>
+        <translation>Incluir también los archivos que ya están en la carpeta</translation>
+    </message>
+    <message>
+        <source>New files appear in the main window as suggestions — nothing is renamed until you review.</source>
+        <translation>Los archivos nuevos aparecen como sugerencias en la ventana principal; nada se renombra hasta que lo revises.</translation>
     </message>
 </context>
 <context>

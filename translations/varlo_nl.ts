@@ -2,6 +2,61 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="nl" sourcelanguage="en">
 <context>
+    <name>AboutPane</name>
+    <message>
+        <source>Version </source>
+        <translation>Versie </translation>
+    </message>
+    <message>
+        <source>Renames files fast based on their contents.</source>
+        <translation>Hernoemt bestanden snel op basis van hun inhoud.</translation>
+    </message>
+    <message>
+        <source>Use your own provider</source>
+        <translation>Gebruik je eigen provider</translation>
+    </message>
+    <message>
+        <source>Your own key is in use.</source>
+        <translation>Je eigen sleutel is in gebruik.</translation>
+    </message>
+    <message>
+        <source>No API key set.</source>
+        <translation>Geen API-sleutel ingesteld.</translation>
+    </message>
+    <message>
+        <source>Supported formats</source>
+        <translation>Ondersteunde formaten</translation>
+    </message>
+    <message>
+        <source>The file types Varlo can read.</source>
+        <translation>De bestandstypen die Varlo kan lezen.</translation>
+    </message>
+    <message>
+        <source>View List</source>
+        <translation>Lijst bekijken</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Website</translation>
+    </message>
+    <message>
+        <source>Email</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Questions, problems, or feedback.</source>
+        <translation>Vragen, problemen of feedback.</translation>
+    </message>
+    <message>
+        <source>Contact support</source>
+        <translation>Contact opnemen</translation>
+    </message>
+    <message>
+        <source>Documentation</source>
+        <translation>Documentatie</translation>
+    </message>
+</context>
+<context>
     <name>AppMenu</name>
     <message>
         <source>Menu bar</source>
@@ -60,6 +115,25 @@
     <message>
         <source>Select Folder…</source>
         <translation>Map kiezen…</translation>
+    </message>
+    <message>
+        <source>Choose a folder to let Varlo rename the files inside it.</source>
+        <extracomment>Open-panel message for granting access to one specific folder</extracomment>
+        <translation>Kies een map waarin Varlo bestanden mag hernoemen.</translation>
+    </message>
+    <message>
+        <source>Allow</source>
+        <extracomment>Open-panel confirm button granting folder access</extracomment>
+        <translation>Sta toe</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Map kiezen…</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <extracomment>Confirm button of the chooser of the watched folder</extracomment>
+        <translation>Kiezen</translation>
     </message>
 </context>
 <context>
@@ -122,6 +196,14 @@
     <message>
         <source>No API key set.</source>
         <translation>Geen API-sleutel ingesteld.</translation>
+    </message>
+    <message>
+        <source>Paste your own API key from your chosen provider.</source>
+        <translation>Plak je eigen API-sleutel van de provider van je keuze.</translation>
+    </message>
+    <message>
+        <source>Use your own provider</source>
+        <translation>Gebruik je eigen provider</translation>
     </message>
 </context>
 <context>
@@ -336,6 +418,18 @@
     </message>
 </context>
 <context>
+    <name>FieldChip</name>
+    <message>
+        <source>%1 of %2</source>
+        <extracomment>The place of a field in a template: %1 of %2</extracomment>
+        <translation>%1 van %2</translation>
+    </message>
+    <message>
+        <source>Remove Field</source>
+        <translation>Veld verwijderen</translation>
+    </message>
+</context>
+<context>
     <name>FileItem</name>
     <message>
         <source>Pending</source>
@@ -433,6 +527,49 @@
     </message>
 </context>
 <context>
+    <name>FoldersPane</name>
+    <message>
+        <source>Full access</source>
+        <translation>Volledige toegang</translation>
+    </message>
+    <message>
+        <source>Varlo renames by controlling Finder — one quick “Allow” lets it rename files anywhere, with no folder picking.</source>
+        <translation>Varlo hernoemt door Finder te besturen. Eén keer ‘Sta toe’ en je kunt overal hernoemen, zonder mappen te kiezen.</translation>
+    </message>
+    <message>
+        <source>Grant access to entire Finder (so all files)</source>
+        <translation>Toegang geven tot heel Finder (dus alle bestanden)</translation>
+    </message>
+    <message>
+        <source>Varlo never reads your whole disk — it only opens the files you give it and asks Finder to do the renaming. Change this anytime in System Settings ▸ Privacy &amp; Security ▸ Automation.</source>
+        <translation>Varlo leest nooit je hele schijf: het opent alleen de bestanden die je geeft en vraagt Finder om te hernoemen. Wijzig dit wanneer je wilt in Systeeminstellingen ▸ Privacy en beveiliging ▸ Automatisering.</translation>
+    </message>
+    <message>
+        <source>Or allow specific folders</source>
+        <translation>Of sta bepaalde mappen toe</translation>
+    </message>
+    <message>
+        <source>Prefer not to grant Finder control? Add the folders you rename in, and Varlo won&apos;t ask each time.</source>
+        <translation>Liever geen toegang tot Finder? Voeg de mappen toe waarin je hernoemt, dan vraagt Varlo het niet elke keer.</translation>
+    </message>
+    <message>
+        <source>Choose a folder to let Varlo rename the files inside it.</source>
+        <translation>Kies een map waarin Varlo bestanden mag hernoemen.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Verwijderen</translation>
+    </message>
+    <message>
+        <source>No folders allowed yet.</source>
+        <translation>Nog geen mappen toegestaan.</translation>
+    </message>
+    <message>
+        <source>Add Folder…</source>
+        <translation>Map toevoegen…</translation>
+    </message>
+</context>
+<context>
     <name>Formats</name>
     <message>
         <source>Coming soon</source>
@@ -463,6 +600,13 @@
     <message>
         <source>Undo</source>
         <translation>Herstel</translation>
+    </message>
+</context>
+<context>
+    <name>GrantedMark</name>
+    <message>
+        <source>Granted</source>
+        <translation>Toegestaan</translation>
     </message>
 </context>
 <context>
@@ -540,6 +684,21 @@
     <message>
         <source>The settings in &quot;%1&quot; could not be read, and the default settings hold: %2</source>
         <translation>De instellingen in &quot;%1&quot; konden niet gelezen worden; de standaardinstellingen gelden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>LanguagePane</name>
+    <message>
+        <source>Interface language</source>
+        <translation>Taal van de app</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>Systeem</translation>
+    </message>
+    <message>
+        <source>Filename language is set in the main window.</source>
+        <translation>De taal van bestandsnamen kies je in het hoofdvenster.</translation>
     </message>
 </context>
 <context>
@@ -639,6 +798,66 @@
     </message>
 </context>
 <context>
+    <name>ProviderKeySheet</name>
+    <message>
+        <source>Use your own provider</source>
+        <translation>Gebruik je eigen provider</translation>
+    </message>
+    <message>
+        <source>Paste your own API key from your chosen provider.</source>
+        <translation>Plak je eigen API-sleutel van de provider van je keuze.</translation>
+    </message>
+    <message>
+        <source>Your own key is in use.</source>
+        <translation>Je eigen sleutel is in gebruik.</translation>
+    </message>
+    <message>
+        <source>New API key</source>
+        <translation>Nieuwe API-sleutel</translation>
+    </message>
+    <message>
+        <source>API key</source>
+        <translation>API-sleutel</translation>
+    </message>
+    <message>
+        <source>Remove Key</source>
+        <translation>Sleutel verwijderen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuleren</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Bewaren</translation>
+    </message>
+    <message>
+        <source>Server address</source>
+        <translation>Serveradres</translation>
+    </message>
+    <message>
+        <source>AI model</source>
+        <translation>AI-model</translation>
+    </message>
+    <message>
+        <source>Your files go to this server and nowhere else. A key goes only to the server it was saved for.</source>
+        <translation>Je bestanden gaan naar deze server en nergens anders heen. Een sleutel gaat alleen naar de server waarvoor hij is bewaard.</translation>
+    </message>
+    <message>
+        <source>Test</source>
+        <translation>Testen</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <extracomment>Uses the server address and the model that were typed</extracomment>
+        <translation>Toepassen</translation>
+    </message>
+    <message>
+        <source>Waiting for an answer…</source>
+        <translation>Wachten op antwoord…</translation>
+    </message>
+</context>
+<context>
     <name>ProviderModel</name>
     <message>
         <source>The model answers. It suggested “%1”.</source>
@@ -723,6 +942,46 @@
     </message>
 </context>
 <context>
+    <name>SettingsView</name>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Taal</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Sjablonen</translation>
+    </message>
+    <message>
+        <source>Folders</source>
+        <translation>Mappen</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Tags</translation>
+    </message>
+    <message>
+        <source>Watch Folder</source>
+        <translation>Gevolgde map</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Over</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Sluiten</translation>
+    </message>
+    <message>
+        <source>The setting could not be stored: %1</source>
+        <extracomment>%1 is the system&apos;s own reason, as &quot;No space left on device&quot;</extracomment>
+        <translation>De instelling kon niet worden bewaard: %1</translation>
+    </message>
+</context>
+<context>
     <name>SheetHeader</name>
     <message>
         <source>Close</source>
@@ -802,6 +1061,50 @@
     </message>
 </context>
 <context>
+    <name>TagsPane</name>
+    <message>
+        <source>Add Finder tags to renamed files</source>
+        <translation>Finder-tags toevoegen aan hernoemde bestanden</translation>
+    </message>
+    <message>
+        <source>When on, Varlo suggests a few keyword tags for each file and writes them as Finder tags when you rename. You&apos;ll see the tags before they&apos;re applied.</source>
+        <translation>Als dit aan staat, stelt Varlo per bestand een paar trefwoorden voor en schrijft ze bij het hernoemen als Finder-tags. Je ziet de tags voordat ze worden toegepast.</translation>
+    </message>
+    <message>
+        <source>2025-03-14 - Acme - Hosting plan - 174.24 EUR.pdf</source>
+        <extracomment>A file name, as an example of what Varlo makes</extracomment>
+        <translation>2025-03-14 - Acme - Hostingpakket - 174,24 EUR.pdf</translation>
+    </message>
+    <message>
+        <source>invoice,hosting,acme</source>
+        <extracomment>Keyword tags of a file, as an example, with commas between them</extracomment>
+        <translation>factuur,hosting,acme</translation>
+    </message>
+</context>
+<context>
+    <name>TemplateEditorSection</name>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>Untitled</source>
+        <translation>Naamloos</translation>
+    </message>
+    <message>
+        <source>Add Field</source>
+        <translation>Veld toevoegen</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Voorbeeld</translation>
+    </message>
+    <message>
+        <source>Delete Template…</source>
+        <translation>Sjabloon verwijderen…</translation>
+    </message>
+</context>
+<context>
     <name>TemplateField</name>
     <message>
         <source>Date</source>
@@ -861,6 +1164,33 @@
     <message>
         <source>No fixed template — the AI picks the best name structure for each file.</source>
         <translation>Geen vast sjabloon: de AI kiest voor elk bestand de beste opbouw.</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Sjablonen</translation>
+    </message>
+    <message>
+        <source>New Template…</source>
+        <translation>Nieuw sjabloon…</translation>
+    </message>
+</context>
+<context>
+    <name>TemplatesPane</name>
+    <message>
+        <source>How suggested names are built. Pick one per batch in the main window.</source>
+        <translation>Hoe voorgestelde namen worden opgebouwd. Kies er per reeks een in het hoofdvenster.</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>Standaardinstellingen</translation>
+    </message>
+    <message>
+        <source>No fixed template — the AI picks the best name structure for each file.</source>
+        <translation>Geen vast sjabloon: de AI kiest voor elk bestand de beste opbouw.</translation>
+    </message>
+    <message>
+        <source>New Template…</source>
+        <translation>Nieuw sjabloon…</translation>
     </message>
 </context>
 <context>
@@ -1102,6 +1432,10 @@
         <source>History</source>
         <translation>Geschiedenis</translation>
     </message>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
 </context>
 <context>
     <name>UpdateChecker</name>
@@ -1174,6 +1508,29 @@
     <message>
         <source>You have version %1.</source>
         <translation>Je hebt versie %1.</translation>
+    </message>
+</context>
+<context>
+    <name>WatchPane</name>
+    <message>
+        <source>Suggest names for new files automatically</source>
+        <translation>Automatisch namen voorstellen voor nieuwe bestanden</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Map</translation>
+    </message>
+    <message>
+        <source>Choose Folder…</source>
+        <translation>Map kiezen…</translation>
+    </message>
+    <message>
+        <source>Also include files already in this folder</source>
+        <translation>Ook bestanden die al in deze map staan</translation>
+    </message>
+    <message>
+        <source>New files appear in the main window as suggestions — nothing is renamed until you review.</source>
+        <translation>Nieuwe bestanden verschijnen als voorstel in het hoofdvenster. Er wordt niets hernoemd voordat je het hebt bekeken.</translation>
     </message>
 </context>
 <context>

@@ -7,7 +7,6 @@
 #include "platform/linux/FallbackSecretStore.h"
 #include "platform/linux/FileSecretStore.h"
 #include "platform/linux/SecretServiceStore.h"
-#include "suggestion/makeModelClient.h"
 #include "ui/IconProvider.h"
 #include <QDBusConnection>
 #include <QDBusPendingCallWatcher>
@@ -46,42 +45,26 @@ Application::Application(const Environment &environment)
     , m_journal(m_folders.state)
     , m_renamer(m_journal, m_clock)
     , m_renameLog(m_preferences, m_renamer, m_folderAccess)
-    , m_suggester(makeSuggester(environment))
+    , m_keyring(std::make_unique<SecretServiceStore>())
+    , m_secretFile(std::make_unique<FileSecretStore>(m_folders.data / "secrets" / "keys.json"))
+    , m_secretStore(std::make_unique<FallbackSecretStore>(*m_keyring, *m_secretFile))
+    , m_suggester(m_preferences, *m_secretStore,
+          { environmentValue(environment, "VARLO_ENDPOINT"), environmentValue(environment, "VARLO_MODEL"),
+              environmentValue(environment, "VARLO_API_KEY") })
     , m_reader(m_fileFlags, { {}, {}, [](const QString &warning) { qWarning("%s", qUtf8Printable(warning)); } })
-    , m_batch(std::make_unique<RenamerViewModel>(RenamerViewModel::Collaborators { m_reader, *m_suggester,
+    , m_batch(std::make_unique<RenamerViewModel>(RenamerViewModel::Collaborators { m_reader, m_suggester,
           m_templateStore, m_renameLog, m_renamer, m_folderAccess, nullptr, m_preferences, m_locale }))
     , m_templateChoices(
           m_templateStore, [this] { return resolvedLanguage(m_batch->filenameLanguageOption(), m_locale); })
     , m_historyView(m_renameLog, m_clock)
     , m_quickLook(*m_batch, m_reader)
     , m_watchedFolder(m_preferences, m_folderAccess, m_watcher, *m_batch)
+    , m_settings(m_preferences, m_templateStore, m_folderAccess, nullptr, m_suggester, m_locale)
     , m_updater(updateChecker(), QVersionNumber::fromString(QStringLiteral(VARLO_VERSION)), &QDesktopServices::openUrl)
 {
 }
 
 Application::~Application() = default;
-
-std::unique_ptr<NameSuggestionService> Application::makeSuggester(const Environment &environment)
-{
-    m_keyring = std::make_unique<SecretServiceStore>();
-    m_secretFile = std::make_unique<FileSecretStore>(m_folders.data / "secrets" / "keys.json");
-    m_secretStore = std::make_unique<FallbackSecretStore>(*m_keyring, *m_secretFile);
-    QString address = environmentValue(environment, "VARLO_ENDPOINT");
-    if (address.isEmpty())
-        address = m_preferences.string(Preference::endpoint);
-    // An address that cannot be used is shown as such where it is set; until then names come from the hosted one.
-    const Endpoint endpoint = Endpoint::parse(address).or_else([](auto) { return Endpoint::parse({}); }).value();
-    m_keyStore
-        = std::make_unique<APIKeyStore>(*m_secretStore, endpoint, environmentValue(environment, "VARLO_API_KEY"));
-    QString model = environmentValue(environment, "VARLO_MODEL");
-    if (model.isEmpty())
-        model = m_preferences.string(Preference::model);
-    APIKeyStore &keys = *m_keyStore;
-    auto client = makeModelClient(endpoint, model, [&keys] { return keys.loadKey(); });
-    if (!client)
-        qFatal("the part that asks a model (varlo-model-client) is not installed");
-    return client;
-}
 
 void Application::retranslate()
 {
@@ -89,6 +72,7 @@ void Application::retranslate()
     m_batch->retranslate();
     m_historyView.retranslate();
     m_updater.retranslate();
+    m_settings.retranslate();
     emit m_templateChoices.changed();
     emit m_uiState.languageChanged();
 }
@@ -155,8 +139,8 @@ QQuickWindow *Application::show()
         { u"templates"_s, QVariant::fromValue(&m_templateChoices) }, { u"watcher"_s, QVariant::fromValue(&m_watcher) },
         { u"watchedFolder"_s, QVariant::fromValue(&m_watchedFolder) },
         { u"quickLook"_s, QVariant::fromValue(&m_quickLook) },
-        { u"folderPanel"_s, QVariant::fromValue(&m_folderPanel) }, { u"updater"_s, QVariant::fromValue(&m_updater) },
-        { u"uiState"_s, QVariant::fromValue(&m_uiState) } });
+        { u"folderPanel"_s, QVariant::fromValue(&m_folderPanel) }, { u"settings"_s, QVariant::fromValue(&m_settings) },
+        { u"updater"_s, QVariant::fromValue(&m_updater) }, { u"uiState"_s, QVariant::fromValue(&m_uiState) } });
     m_engine.load(QUrl(u"qrc:/qt/qml/Varlo/ContentView.qml"_s));
     if (m_engine.rootObjects().isEmpty())
         return nullptr;

@@ -14,11 +14,11 @@
 #include "platform/linux/SystemClock.h"
 #include "renaming/FileRenamer.h"
 #include "renaming/RenameJournal.h"
-#include "settings/APIKeyStore.h"
-#include "suggestion/NameSuggestionService.h"
+#include "suggestion/ConfiguredNameSuggester.h"
 #include "templates/TemplateChoices.h"
 #include "ui/AppUIState.h"
 #include "ui/QuickLook.h"
+#include "ui/SettingsModels.h"
 #include "updates/UpdaterModel.h"
 #include "workflow/RenamerViewModel.h"
 #include "workflow/WatchedFolder.h"
@@ -51,7 +51,6 @@ public:
     void finish();
 
 private:
-    [[nodiscard]] std::unique_ptr<NameSuggestionService> makeSuggester(const Environment &environment);
     void retranslate();
 
     StateFolders m_folders;
@@ -70,8 +69,7 @@ private:
     std::unique_ptr<SecretStore> m_keyring;
     std::unique_ptr<SecretStore> m_secretFile;
     std::unique_ptr<SecretStore> m_secretStore;
-    std::unique_ptr<APIKeyStore> m_keyStore;
-    std::unique_ptr<NameSuggestionService> m_suggester;
+    ConfiguredNameSuggester m_suggester;
     IsolatedContentReader m_reader;
     std::unique_ptr<RenamerViewModel> m_batch;
     TemplateChoices m_templateChoices;
@@ -79,6 +77,7 @@ private:
     QuickLook m_quickLook;
     FolderWatcher m_watcher;
     WatchedFolder m_watchedFolder;
+    SettingsModels m_settings;
     AppUIState m_uiState;
     UpdaterModel m_updater;
     DesktopMotion m_desktopMotion;

@@ -12,6 +12,8 @@ class AppUIState : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool showingSettings MEMBER m_showingSettings NOTIFY shownChanged)
     Q_PROPERTY(bool showingHistory MEMBER m_showingHistory NOTIFY shownChanged)
+    /// The sheet for the API key.
+    Q_PROPERTY(bool showingProvider MEMBER m_showingProvider NOTIFY shownChanged)
     Q_PROPERTY(bool showingFormats MEMBER m_showingFormats NOTIFY shownChanged)
     /// The desktop shows the menus of all windows in one place.
     Q_PROPERTY(bool hasGlobalMenu MEMBER m_hasGlobalMenu NOTIFY shownChanged)
@@ -54,6 +56,7 @@ signals:
 private:
     bool m_showingSettings = false;
     bool m_showingHistory = false;
+    bool m_showingProvider = false;
     bool m_showingFormats = false;
     bool m_hasGlobalMenu = false;
     bool m_isMotionWanted = true;

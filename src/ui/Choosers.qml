@@ -9,6 +9,7 @@ Item {
     id: choosers
 
     property RenamerViewModel batch
+    property SettingsModels settings
     property var folderPanel: null
     property var nameFilters: []
     function chooseFiles() { files.open(); }
@@ -17,6 +18,15 @@ Item {
     function askForFolder(startFolder: url) {
         access.currentFolder = startFolder;
         access.open();
+    }
+
+    function chooseGrantedFolder() {
+        granted.currentFolder = settings.startFolder;
+        granted.open();
+    }
+    function chooseWatchedFolder() {
+        watched.currentFolder = settings.startFolder;
+        watched.open();
     }
 
     FileDialog {
@@ -32,6 +42,24 @@ Item {
         acceptLabel: choosers.folderPanel ? choosers.folderPanel.confirmation : ""
         onAccepted: choosers.folderPanel.choose(selectedFolder)
         onRejected: choosers.folderPanel.decline()
+    }
+    FolderDialog {
+        id: granted
+        //: Open-panel message for granting access to one specific folder
+        title: qsTr("Choose a folder to let Varlo rename the files inside it.")
+        //: Open-panel confirm button granting folder access
+        acceptLabel: qsTr("Allow")
+        onAccepted: choosers.settings.folders.add(selectedFolder)
+    }
+    FolderDialog {
+        id: watched
+        title: qsTr("Choose Folder…")
+        //: Confirm button of the chooser of the watched folder
+        acceptLabel: qsTr("Choose")
+        onAccepted: {
+            choosers.settings.folders.add(selectedFolder);
+            choosers.settings.preferences.chooseWatchFolder(selectedFolder);
+        }
     }
     FolderDialog {
         id: folder

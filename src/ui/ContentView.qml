@@ -16,6 +16,7 @@ Window {
     property var watchedFolder: null
     property var folderPanel: null
     property QuickLook quickLook: null
+    required property SettingsModels settings
     required property AppUIState uiState
     property UpdaterModel updater: null
 
@@ -23,7 +24,8 @@ Window {
     readonly property bool isEmpty: batch.count === 0
     readonly property bool hasSheet: sheets.hasOpenSheet
     readonly property bool isWatching: watcher !== null && watcher.isWatching
-    readonly property bool hasNotice: batch.isNothingRenameable || batch.isKeyMissing || isWatching
+    readonly property bool hasNotice: batch.isNothingRenameable || isKeyMissing || isWatching
+    readonly property bool isKeyMissing: batch.isKeyMissing && !settings.provider.hasKey
     property bool isDropTargeted: false
 
     title: "Varlo"
@@ -74,6 +76,10 @@ Window {
         else if (!hasSheet || uiState.showingHistory)
             history.revertLatest();
     }
+    function showTemplates() {
+        settings.preferences.settingsSelectedTab = "templates";
+        uiState.showingSettings = true;
+    }
     function goToRegion(by: int) {
         const regions = Array.from([top, notices, panel, bottom]).filter(item => item.visible && item.height > 0);
         let at = regions.findIndex(region => {
@@ -115,7 +121,13 @@ Window {
             languageOptions: window.uiState.languageOptions
             templates: window.templates.choices
             isNarrow: window.isNarrow
+            onTemplateEditRequested: window.showTemplates()
+            onTemplateCreateRequested: {
+                window.settings.templateEditor.create();
+                window.showTemplates();
+            }
             onHistoryRequested: window.uiState.showingHistory = true
+            onSettingsRequested: window.uiState.showingSettings = true
             onTemplateDeleteRequested: id => sheets.confirmTemplateDeletion(id)
         }
 
@@ -154,10 +166,21 @@ Window {
             }
             OnDemand {
                 id: keyBanner
-                active: window.batch.isKeyMissing
+                active: window.isKeyMissing
                 sourceComponent: Banner {
                     iconName: "key"
                     title: qsTr("No API key set.")
+                    below: Label {
+                        text: qsTr("Paste your own API key from your chosen provider.")
+                        size: 13
+                        color: "#5E4A22"
+                    }
+                    buttons: SecondaryButton {
+                        isSmall: true
+                        ground: Theme.warnTint
+                        text: qsTr("Use your own provider")
+                        onClicked: window.uiState.showingProvider = true
+                    }
                 }
             }
             WatcherStrip {

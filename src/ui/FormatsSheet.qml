@@ -16,6 +16,8 @@ Sheet {
 
     contentItem: ColumnLayout {
         spacing: 0
+        Accessible.role: Accessible.Dialog
+        Accessible.name: sheet.title
         SheetHeader {
             id: header
             Layout.fillWidth: true

@@ -10,7 +10,7 @@ Item {
     required property var contentView
     readonly property var uiState: contentView.uiState
     readonly property bool hasOpenSheet: history.isShown || formats.isShown || update.isShown || deletion.isShown
-        || quickLook.isShown || forgetting.isShown
+        || quickLook.isShown || forgetting.isShown || settings.isShown || provider.isShown
     function chooseFiles() { loadedChoosers().chooseFiles(); }
     function chooseFolder() { loadedChoosers().chooseFolder(); }
     function loadedChoosers(): var {
@@ -67,14 +67,43 @@ Item {
         given: ({ history: sheets.contentView.history })
     }
     OnDemand {
+        id: settings
+        isWanted: sheets.uiState.showingSettings
+        onDismissed: {
+            sheets.uiState.showingSettings = false;
+            sheets.contentView.settings.templateEditor.close();
+            active = false;
+        }
+        file: "settings/SettingsView.qml"
+        given: ({ models: sheets.contentView.settings, templates: sheets.contentView.templates })
+    }
+    Connections {
+        target: settings.item
+        function onTemplateDeleteRequested(id) { sheets.confirmTemplateDeletion(id); }
+        function onFolderRequested() { sheets.loadedChoosers().chooseGrantedFolder(); }
+        function onWatchFolderRequested() { sheets.loadedChoosers().chooseWatchedFolder(); }
+        function onFormatsRequested() { sheets.uiState.showingFormats = true; }
+        function onProviderRequested() { sheets.uiState.showingProvider = true; }
+    }
+    OnDemand {
+        id: provider
+        isWanted: sheets.uiState.showingProvider
+        onDismissed: {
+            sheets.uiState.showingProvider = false;
+            active = false; // and what was typed is gone with it
+        }
+        file: "settings/ProviderKeySheet.qml"
+        given: ({ provider: sheets.contentView.settings.provider, isSecond: settings.isShown })
+    }
+    OnDemand {
         id: formats
         isWanted: sheets.uiState.showingFormats
         onDismissed: {
             sheets.uiState.showingFormats = false;
-            active = false; // its words may be in another language the next time
+            active = false; // its words may be in another language the next time, and it may lie over a sheet
         }
         file: "FormatsSheet.qml"
-        given: ({ sections: sheets.uiState.formatSections })
+        given: ({ sections: sheets.uiState.formatSections, isSecond: settings.isShown })
     }
     OnDemand {
         id: quickLook
@@ -100,7 +129,12 @@ Item {
         sourceComponent: ConfirmDialog {
             title: qsTr("Delete Template…")
             confirmText: qsTr("Delete")
-            onConfirmed: sheets.contentView.templates.remove(deletion.templateId)
+            onConfirmed: {
+                sheets.contentView.templates.remove(deletion.templateId);
+                const editor = sheets.contentView.settings.templateEditor;
+                if (editor.templateId === deletion.templateId)
+                    editor.close();
+            }
             onClosed: deletion.active = false
         }
     }
@@ -130,6 +164,7 @@ Item {
         id: choosers
         onLoaded: {
             item.batch = sheets.contentView.batch;
+            item.settings = sheets.contentView.settings;
             item.folderPanel = sheets.contentView.folderPanel;
             item.nameFilters = sheets.uiState.nameFilters;
         }

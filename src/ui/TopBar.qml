@@ -13,6 +13,9 @@ RowLayout {
     required property var templates
     property bool isNarrow: false
     signal historyRequested
+    signal settingsRequested
+    signal templateEditRequested
+    signal templateCreateRequested
     signal templateDeleteRequested(string id)
 
     spacing: 8
@@ -40,13 +43,21 @@ RowLayout {
         templates: bar.templates
         selection: bar.batch.templateId
         onChosen: id => bar.batch.templateId = id
+        onEditRequested: bar.templateEditRequested()
+        onCreateRequested: bar.templateCreateRequested()
         onDeleteRequested: id => bar.templateDeleteRequested(id)
     }
     Item { Layout.fillWidth: true; Layout.preferredWidth: 1 }
     ChromeIconButton {
-        Layout.rightMargin: 12
         systemName: "history"
         help: qsTr("History")
         onClicked: bar.historyRequested()
+    }
+    ChromeIconButton {
+        Layout.leftMargin: -4
+        Layout.rightMargin: 12
+        systemName: "settings"
+        help: qsTr("Settings")
+        onClicked: bar.settingsRequested()
     }
 }

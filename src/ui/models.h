@@ -6,6 +6,7 @@
 #include "templates/TemplateChoices.h"
 #include "ui/AppUIState.h"
 #include "ui/QuickLook.h"
+#include "ui/SettingsModels.h"
 #include "updates/UpdaterModel.h"
 #include "workflow/RenamerViewModel.h"
 #include <QtQml/qqml.h>
@@ -41,6 +42,42 @@ struct ForeignUpdaterModel {
     Q_GADGET
     QML_FOREIGN(Varlo::UpdaterModel)
     QML_NAMED_ELEMENT(UpdaterModel)
+    QML_UNCREATABLE("made at start-up")
+};
+struct ForeignPreferenceModel {
+    Q_GADGET
+    QML_FOREIGN(Varlo::PreferenceModel)
+    QML_NAMED_ELEMENT(PreferenceModel)
+    QML_UNCREATABLE("made at start-up")
+};
+struct ForeignTemplateEditor {
+    Q_GADGET
+    QML_FOREIGN(Varlo::TemplateEditor)
+    QML_NAMED_ELEMENT(TemplateEditor)
+    QML_UNCREATABLE("made at start-up")
+};
+struct ForeignGrantedFolders {
+    Q_GADGET
+    QML_FOREIGN(Varlo::GrantedFolders)
+    QML_NAMED_ELEMENT(GrantedFolders)
+    QML_UNCREATABLE("made at start-up")
+};
+struct ForeignFinderAccess {
+    Q_GADGET
+    QML_FOREIGN(Varlo::FinderAccess)
+    QML_NAMED_ELEMENT(FinderAccess)
+    QML_UNCREATABLE("made at start-up")
+};
+struct ForeignProviderModel {
+    Q_GADGET
+    QML_FOREIGN(Varlo::ProviderModel)
+    QML_NAMED_ELEMENT(ProviderModel)
+    QML_UNCREATABLE("made at start-up")
+};
+struct ForeignSettingsModels {
+    Q_GADGET
+    QML_FOREIGN(Varlo::SettingsModels)
+    QML_NAMED_ELEMENT(SettingsModels)
     QML_UNCREATABLE("made at start-up")
 };
 struct ForeignAppUIState {

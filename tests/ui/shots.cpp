@@ -4,8 +4,10 @@
 //     varlo-shots FOLDER [WORD...]
 // writes those screens whose names contain one of the words, or all, and each in Dutch and Spanish too. Fails where a
 // screen has Qt warn of anything, where some text in it would be taken for markup, and where a control's words are cut.
+#include "fakes/FakeAutomationHost.h"
 #include "fakes/FakeClock.h"
 #include "fakes/FakePreviewReader.h"
+#include "fakes/FakeSecretStore.h"
 #include "history/HistoryView.h"
 #include "languages/InterfaceLanguage.h"
 #include "platform/pathExtension.h"
@@ -15,6 +17,7 @@
 #include "ui/chooseFonts.h"
 #include "ui/IconProvider.h"
 #include "ui/QuickLook.h"
+#include "ui/SettingsModels.h"
 #include "workflow/TestBatch.h"
 #include <filesystem>
 #include <functional>
@@ -76,15 +79,19 @@ private:
 /// A batch in its window, and what to do with both.
 class Stage {
 public:
-    explicit Stage(const QString &languageCode)
+    Stage(const QString &languageCode, bool hasFinder)
+        : settings(std::make_unique<SettingsModels>(
+            preferences, templates, access, hasFinder ? &finder : nullptr, configured, locale))
     {
         static_cast<void>(preferences.set(Preference::uiLanguage, languageCode));
+        finder.status = AutomationHost::consentNeeded;
         engine.addImportPath(u"qrc:/qt/qml"_s);
         engine.addImageProvider(u"icons"_s, new IconProvider);
         clock.time = QDateTime(QDate(2026, 3, 14), QTime(15, 9, 26));
         engine.setInitialProperties({ { u"batch"_s, QVariant::fromValue(&batch) },
             { u"history"_s, QVariant::fromValue(&history) }, { u"templates"_s, QVariant::fromValue(&choices) },
-            { u"quickLook"_s, QVariant::fromValue(&quickLook) }, { u"uiState"_s, QVariant::fromValue(&uiState) } });
+            { u"quickLook"_s, QVariant::fromValue(&quickLook) }, { u"settings"_s, QVariant::fromValue(settings.get()) },
+            { u"uiState"_s, QVariant::fromValue(&uiState) } });
         engine.load(QUrl(u"qrc:/qt/qml/Varlo/ContentView.qml"_s));
         if (engine.rootObjects().isEmpty())
             qFatal("the window cannot be made");
@@ -137,6 +144,10 @@ public:
     HistoryView history { log, clock };
     FakePreviewReader previews;
     QuickLook quickLook { batch, previews };
+    FakeSecretStore secrets;
+    ConfiguredNameSuggester configured { preferences, secrets, {} };
+    FakeAutomationHost finder;
+    std::unique_ptr<SettingsModels> settings;
     AppUIState uiState;
     QQmlApplicationEngine engine;
     QQuickWindow *window = nullptr;
@@ -248,6 +259,32 @@ static void openPicker(Stage &stage, const char *type)
     QTest::qWait(300);
 }
 
+/// The settings at a tab, over a window in use.
+static void showSettings(Stage &stage, const QString &tab)
+{
+    fillForReview(stage);
+    for (const char *folder : { "Documents/Invoices", "Downloads" }) {
+        std::filesystem::create_directories(stage.home / folder);
+        stage.access.addGrant(stage.home / folder);
+    }
+    const NameTemplate reports { u"reports"_s, u"Client reports"_s,
+        { TemplateField::Date, TemplateField::Vendor, TemplateField::Title } };
+    static_cast<void>(stage.templates.setTemplates(builtInTemplates() + QList { reports }));
+    stage.settings->preferences()->setWriteFinderTags(true);
+    stage.settings->preferences()->setSettingsSelectedTab(tab);
+    static_cast<void>(stage.preferences.set(Preference::watchFolderPath, shownPath(stage.home / "Downloads")));
+    static_cast<void>(stage.preferences.set(Preference::watchFolderEnabled, true));
+    stage.uiState.setProperty("showingSettings", true);
+}
+
+static void showKeySheet(Stage &stage, const QString &key)
+{
+    if (!key.isEmpty())
+        stage.secrets.secrets[u"anthropic"_s] = key;
+    showSettings(stage, u"about"_s);
+    stage.uiState.setProperty("showingProvider", true);
+}
+
 static const std::map<QString, std::function<void(Stage &)>> &screens()
 {
     static const std::map<QString, std::function<void(Stage &)>> all {
@@ -329,6 +366,67 @@ static const std::map<QString, std::function<void(Stage &)>> &screens()
                     "scan_0041.pdf", Unreadable { u"This file could not be read safely."_s });
                 stage.quickLook.open(0, 1);
             } },
+        { u"settings-language"_s, [](Stage &stage) { showSettings(stage, u"language"_s); } },
+        { u"settings-templates"_s, [](Stage &stage) { showSettings(stage, u"templates"_s); } },
+        { u"settings-template-editor"_s,
+            [](Stage &stage) {
+                showSettings(stage, u"templates"_s);
+                stage.settings->templateEditor()->edit(u"reports"_s);
+            } },
+        { u"settings-template-built-in"_s,
+            [](Stage &stage) {
+                showSettings(stage, u"templates"_s);
+                stage.settings->templateEditor()->edit(u"contract"_s);
+            } },
+        { u"settings-template-field"_s,
+            [](Stage &stage) {
+                showSettings(stage, u"templates"_s);
+                stage.settings->templateEditor()->edit(u"reports"_s);
+                QTest::qWait(300);
+                press(stage, u"Add Field"_s);
+            } },
+        { u"settings-template-delete"_s,
+            [](Stage &stage) {
+                showSettings(stage, u"templates"_s);
+                stage.settings->templateEditor()->edit(u"reports"_s);
+                QTest::qWait(300);
+                press(stage, u"Delete Template…"_s);
+            } },
+        { u"settings-folders"_s, [](Stage &stage) { showSettings(stage, u"folders"_s); } },
+        { u"settings-folders-empty"_s,
+            [](Stage &stage) {
+                showSettings(stage, u"folders"_s);
+                while (stage.settings->folders()->rowCount() > 0)
+                    stage.settings->folders()->remove(0);
+            } },
+        { u"settings-folders-finder"_s, [](Stage &stage) { showSettings(stage, u"folders"_s); } },
+        { u"settings-folders-finder-granted"_s,
+            [](Stage &stage) {
+                stage.finder.status = AutomationHost::noError;
+                showSettings(stage, u"folders"_s);
+            } },
+        { u"settings-tags"_s, [](Stage &stage) { showSettings(stage, u"tags"_s); } },
+        { u"settings-watch"_s, [](Stage &stage) { showSettings(stage, u"watch"_s); } },
+        { u"settings-about"_s, [](Stage &stage) { showSettings(stage, u"about"_s); } },
+        { u"settings-not-stored"_s,
+            [](Stage &stage) {
+                showSettings(stage, u"tags"_s);
+                stage.store.failure = SystemError { ENOSPC };
+                stage.settings->preferences()->setWriteFinderTags(false);
+            } },
+        { u"settings-narrow-finder"_s,
+            [](Stage &stage) {
+                stage.window->resize(720, 560);
+                showSettings(stage, u"folders"_s);
+            } },
+        { u"key-none"_s, [](Stage &stage) { showKeySheet(stage, {}); } },
+        { u"key-set"_s, [](Stage &stage) { showKeySheet(stage, u"sk"_s); } },
+        { u"key-narrow"_s,
+            [](Stage &stage) {
+                stage.window->resize(640, 480);
+                showKeySheet(stage, u"sk"_s);
+                stage.settings->provider()->setUp(u"http://example.org"_s, {});
+            } },
         { u"formats"_s, [](Stage &stage) { stage.uiState.setProperty("showingFormats", true); } },
         { u"history"_s,
             [](Stage &stage) {
@@ -383,7 +481,7 @@ static void checkThatWordsFit(const QQuickItem *item, const QQuickItem *control 
     const QByteArray type = item->metaObject()->className();
     if (type.startsWith("OptionPicker") || type.startsWith("TemplatePicker") || type.startsWith("PopoverPickerRow"))
         return;
-    if (item->inherits("QQuickAbstractButton") || type.startsWith("StatusPill"))
+    if (item->inherits("QQuickAbstractButton") || type.startsWith("StatusPill") || type.startsWith("SettingsTab"))
         control = item;
     if (control && item->inherits("QQuickText")) {
         const qreal width = item->property("contentWidth").toReal();
@@ -411,7 +509,7 @@ int main(int argumentCount, char **arguments)
         if (!isWanted)
             continue;
         for (const QString &code : { u"en"_s, u"nl"_s, u"es"_s }) {
-            Stage stage(code);
+            Stage stage(code, name.contains(u"finder"_s));
             stage.window->show();
             setUp(stage);
             QTest::qWait(300);

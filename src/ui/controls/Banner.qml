@@ -11,26 +11,36 @@ Rectangle {
     required property string iconName
     required property string title
     property bool isError: false
+    property bool isGood: false
+    readonly property color ink: isError ? Theme.bad : isGood ? Theme.ok : Theme.warn
     property alias below: below.data
     property alias buttons: buttons.data
     property string announcement: title
 
     implicitHeight: Math.max(Theme.text(isError ? 44 : 52), line.implicitHeight + 14)
     radius: 12
-    color: isError ? Theme.badTint : Theme.warnTint
-    border { width: 1; color: isError ? Theme.badLine : Theme.warnLine }
+    color: isError ? Theme.badTint : isGood ? Theme.okTint : Theme.warnTint
+    border { width: 1; color: isError ? Theme.badLine : isGood ? Theme.okLine : Theme.warnLine }
     Accessible.role: Accessible.AlertMessage
     Accessible.name: announcement
 
     RowLayout {
         id: line
-        anchors { fill: parent; leftMargin: 14; rightMargin: 9 }
+        // Its own height, since the banner's follows from it.
+        anchors {
+            left: parent.left
+            leftMargin: 14
+            right: parent.right
+            rightMargin: 9
+            verticalCenter: parent.verticalCenter
+        }
         spacing: 12
-        Icon { name: banner.iconName; size: banner.isError ? 20 : 22; color: banner.isError ? Theme.bad : Theme.warn }
-        ColumnLayout {
-            spacing: 0
+        Icon { name: banner.iconName; size: banner.isError ? 20 : 22; color: banner.ink }
+        Column { // a layout would ask again and again how high the wrapped words are
+            Layout.fillWidth: true
+            Layout.preferredWidth: 1
             Label {
-                Layout.fillWidth: true
+                width: parent.width
                 text: banner.title
                 size: 13
                 font.weight: banner.isError ? Font.Medium : Font.DemiBold

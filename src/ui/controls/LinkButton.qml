@@ -10,8 +10,9 @@ T.Button {
 
     property color ink: Theme.accent
     property int textSize: 13
+    property string iconName ///< behind the word
 
-    implicitWidth: label.implicitWidth
+    implicitWidth: contentItem.implicitWidth
     implicitHeight: Math.max(28, label.implicitHeight)
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
@@ -20,14 +21,25 @@ T.Button {
     Accessible.onPressAction: clicked()
     Keys.onReturnPressed: clicked()
 
-    contentItem: Label {
-        id: label
-        size: link.textSize
-        text: link.text
-        color: link.ink
-        font.weight: Font.Medium
-        font.underline: link.hovered
-        Accessible.ignored: true
+    contentItem: Row {
+        spacing: 5
+        Label {
+            id: label
+            anchors.verticalCenter: parent.verticalCenter
+            size: link.textSize
+            text: link.text
+            color: link.ink
+            font.weight: Font.Medium
+            font.underline: link.hovered
+            Accessible.ignored: true
+        }
+        Icon {
+            visible: link.iconName !== ""
+            anchors.verticalCenter: parent.verticalCenter
+            name: link.iconName
+            size: 16
+            color: link.ink
+        }
     }
     background: Item {
         Loader {

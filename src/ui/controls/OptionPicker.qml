@@ -17,6 +17,7 @@ T.AbstractButton {
     property Component popoverFooter: null ///< below the rows
     property string caption ///< above the rows
     property var editHelpFor: option => ""
+    property string editDescription ///< read aloud with each pencil
     property string highlightedId ///< of the row under the pointer or the keyboard; "" for none
     readonly property Popover popover: loader.item as Popover
     readonly property bool isPresented: popover !== null && popover.opened
@@ -139,6 +140,7 @@ T.AbstractButton {
                         name: modelData.name
                         detail: modelData.detail ?? ""
                         editHelp: picker.editHelpFor(modelData)
+                        editDescription: picker.editDescription
                         onIsHighlightedChanged: if (isHighlighted) picker.highlightedId = modelData.id
                         onClicked: {
                             picker.close();

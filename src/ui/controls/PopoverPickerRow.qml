@@ -13,6 +13,7 @@ T.RadioButton {
     property string detail ///< a second line
     property bool showsRadio: true
     property string editHelp ///< names the pencil, which is there with it
+    property string editDescription
     signal editRequested
 
     implicitHeight: Theme.text(detail === "" ? 36 : 50)
@@ -81,6 +82,7 @@ T.RadioButton {
         iconSize: 15
         hover: Theme.surface
         help: row.editHelp
+        description: row.editDescription
         onClicked: row.editRequested()
     }
 }

@@ -6,7 +6,7 @@ import Varlo
 
 /// A switch; its label stands beside it and is its accessible name.
 T.Switch {
-    id: toggle
+    id: control
 
     required property string label
 
@@ -18,19 +18,19 @@ T.Switch {
     Accessible.name: label
     Accessible.checkable: true
     Accessible.checked: checked
-    Accessible.onPressAction: { toggle(); toggled(); }
-    Accessible.onToggleAction: { toggle(); toggled(); }
-    Keys.onReturnPressed: { toggle(); toggled(); }
+    Accessible.onPressAction: { control.toggle(); control.toggled(); }
+    Accessible.onToggleAction: { control.toggle(); control.toggled(); }
+    Keys.onReturnPressed: { control.toggle(); control.toggled(); }
 
     indicator: Rectangle {
         y: 2
         width: 40
         height: 24
         radius: 12
-        color: toggle.checked ? (toggle.hovered ? Theme.accentHover : Theme.accent) : Theme.control
+        color: control.checked ? (control.hovered ? Theme.accentHover : Theme.accent) : Theme.control
         Behavior on color { ColorAnimation { duration: Theme.fast } }
         Rectangle {
-            x: toggle.checked ? 19 : 3
+            x: control.checked ? 19 : 3
             y: 3
             width: 18
             height: 18
@@ -40,7 +40,7 @@ T.Switch {
         }
         Loader {
             anchors.fill: parent
-            active: toggle.visualFocus
+            active: control.visualFocus
             sourceComponent: FocusRing { controlRadius: 12 }
         }
     }
