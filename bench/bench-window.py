@@ -61,6 +61,9 @@ def main():
         base = {name: value for name, value in os.environ.items() if not name.startswith(("VARLO_", "DBUS_"))}
         base |= {"QT_QPA_PLATFORM": "offscreen", "QT_QUICK_BACKEND": "software", "HOME": root, "XDG_CONFIG_HOME": root,
                  "XDG_DATA_HOME": root, "XDG_STATE_HOME": root, "XDG_CACHE_HOME": os.path.join(root, "cache")}
+        os.mkdir(os.path.join(root, "varlo"))
+        with open(os.path.join(root, "varlo", "preferences.json"), "w", encoding="utf-8") as preferences:
+            preferences.write('{"hasCompletedOnboarding": true}')  # else the introduction is what is measured
         rows = make_files(os.path.join(root, "rows"), 200)
         ours, theirs = [arguments.window, rows], [arguments.empty]
         quits = base | {"VARLO_QUIT_AT_ROWS": "200"}

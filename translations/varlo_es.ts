@@ -702,6 +702,13 @@
     </message>
 </context>
 <context>
+    <name>NameCard</name>
+    <message>
+        <source>was</source>
+        <translation>antes:</translation>
+    </message>
+</context>
+<context>
     <name>NameField</name>
     <message>
         <source>Suggested name</source>
@@ -790,11 +797,70 @@
     </message>
 </context>
 <context>
+    <name>OnboardingPicture</name>
+    <message>
+        <source>2024-08-17 - Harbour sunset.HEIC</source>
+        <extracomment>File names in a picture, before and after; about as long as these</extracomment>
+        <translation>2024-08-17 - Puerto al ocaso.HEIC</translation>
+    </message>
+    <message>
+        <source>2025-03-14 - Acme - 174.24 EUR.pdf</source>
+        <translation>2025-03-14 - Acme - 174,24 EUR.pdf</translation>
+    </message>
+    <message>
+        <source>untitled document (7).docx</source>
+        <translation>documento sin título (7).docx</translation>
+    </message>
+    <message>
+        <source>2025-04-08 - Spring minutes.docx</source>
+        <translation>2025-04-08 - Acta primavera.docx</translation>
+    </message>
+    <message>
+        <source>contract SIGNED (2).pdf</source>
+        <translation>contrato FIRMADO (2).pdf</translation>
+    </message>
+    <message>
+        <source>2025-01-31 - Lease - Acme x Korvan.pdf</source>
+        <translation>2025-01-31 - Alquiler - Korvan.pdf</translation>
+    </message>
+</context>
+<context>
     <name>OpenError</name>
     <message>
         <source>This is not a regular file.</source>
         <extracomment>Error for a folder, pipe, socket or device in place of a document.</extracomment>
         <translation>Esto no es un archivo normal.</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionStep</name>
+    <message>
+        <source>Give Varlo access to Finder</source>
+        <translation>Dale a Varlo acceso a Finder</translation>
+    </message>
+    <message>
+        <source>Give Varlo permission to control Finder, so it can rename your files in any folder.</source>
+        <translation>Da permiso a Varlo para controlar Finder y podrá renombrar tus archivos en cualquier carpeta.</translation>
+    </message>
+    <message>
+        <source>Control Finder</source>
+        <translation>Controlar Finder</translation>
+    </message>
+    <message>
+        <source>Rename files in any folder, instantly.</source>
+        <translation>Renombra archivos en cualquier carpeta, al instante.</translation>
+    </message>
+    <message>
+        <source>Grant access</source>
+        <translation>Dar acceso</translation>
+    </message>
+    <message>
+        <source>You can also grant this later in Settings ▸ Folders.</source>
+        <translation>También puedes concederlo más tarde en Ajustes ▸ Carpetas.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Continuar</translation>
     </message>
 </context>
 <context>
@@ -870,6 +936,21 @@
     <message>
         <source>Close</source>
         <translation>Cerrar</translation>
+    </message>
+</context>
+<context>
+    <name>ReadyStep</name>
+    <message>
+        <source>Varlo is ready</source>
+        <translation>Varlo está listo</translation>
+    </message>
+    <message>
+        <source>Add your files and Varlo gets to work.</source>
+        <translation>Añade tus archivos y Varlo se pone a trabajar.</translation>
+    </message>
+    <message>
+        <source>Start renaming</source>
+        <translation>Empezar a renombrar</translation>
     </message>
 </context>
 <context>
@@ -1554,6 +1635,29 @@
     <message>
         <source>Pause</source>
         <translation>Pausar</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeStep</name>
+    <message>
+        <source>Welcome to Varlo</source>
+        <translation>Te damos la bienvenida a Varlo</translation>
+    </message>
+    <message>
+        <source>Varlo suggests a new name based on what’s in your files.</source>
+        <translation>Varlo sugiere un nombre nuevo según lo que hay en tus archivos.</translation>
+    </message>
+    <message>
+        <source>AI reads your files and names them</source>
+        <translation>La IA lee tus archivos y les pone nombre</translation>
+    </message>
+    <message>
+        <source>Dutch, Spanish and English</source>
+        <translation>Neerlandés, español e inglés</translation>
+    </message>
+    <message>
+        <source>Get Started</source>
+        <translation>Empezar</translation>
     </message>
 </context>
 </TS>

@@ -702,6 +702,13 @@
     </message>
 </context>
 <context>
+    <name>NameCard</name>
+    <message>
+        <source>was</source>
+        <translation>was</translation>
+    </message>
+</context>
+<context>
     <name>NameField</name>
     <message>
         <source>Suggested name</source>
@@ -790,11 +797,70 @@
     </message>
 </context>
 <context>
+    <name>OnboardingPicture</name>
+    <message>
+        <source>2024-08-17 - Harbour sunset.HEIC</source>
+        <extracomment>File names in a picture, before and after; about as long as these</extracomment>
+        <translation>2024-08-17 - Haven bij avond.HEIC</translation>
+    </message>
+    <message>
+        <source>2025-03-14 - Acme - 174.24 EUR.pdf</source>
+        <translation>2025-03-14 - Acme - 174,24 EUR.pdf</translation>
+    </message>
+    <message>
+        <source>untitled document (7).docx</source>
+        <translation>naamloos document (7).docx</translation>
+    </message>
+    <message>
+        <source>2025-04-08 - Spring minutes.docx</source>
+        <translation>2025-04-08 - Notulen voorjaar.docx</translation>
+    </message>
+    <message>
+        <source>contract SIGNED (2).pdf</source>
+        <translation>contract GETEKEND (2).pdf</translation>
+    </message>
+    <message>
+        <source>2025-01-31 - Lease - Acme x Korvan.pdf</source>
+        <translation>2025-01-31 - Huur - Acme x Korvan.pdf</translation>
+    </message>
+</context>
+<context>
     <name>OpenError</name>
     <message>
         <source>This is not a regular file.</source>
         <extracomment>Error for a folder, pipe, socket or device in place of a document.</extracomment>
         <translation>Dit is geen gewoon bestand.</translation>
+    </message>
+</context>
+<context>
+    <name>PermissionStep</name>
+    <message>
+        <source>Give Varlo access to Finder</source>
+        <translation>Geef Varlo toegang tot Finder</translation>
+    </message>
+    <message>
+        <source>Give Varlo permission to control Finder, so it can rename your files in any folder.</source>
+        <translation>Geef Varlo toestemming om Finder te besturen, zodat het je bestanden in elke map kan hernoemen.</translation>
+    </message>
+    <message>
+        <source>Control Finder</source>
+        <translation>Finder besturen</translation>
+    </message>
+    <message>
+        <source>Rename files in any folder, instantly.</source>
+        <translation>Hernoem bestanden in elke map, meteen.</translation>
+    </message>
+    <message>
+        <source>Grant access</source>
+        <translation>Toegang geven</translation>
+    </message>
+    <message>
+        <source>You can also grant this later in Settings ▸ Folders.</source>
+        <translation>Je kunt dit ook later doen in Instellingen ▸ Mappen.</translation>
+    </message>
+    <message>
+        <source>Continue</source>
+        <translation>Ga door</translation>
     </message>
 </context>
 <context>
@@ -870,6 +936,21 @@
     <message>
         <source>Close</source>
         <translation>Sluiten</translation>
+    </message>
+</context>
+<context>
+    <name>ReadyStep</name>
+    <message>
+        <source>Varlo is ready</source>
+        <translation>Varlo is klaar</translation>
+    </message>
+    <message>
+        <source>Add your files and Varlo gets to work.</source>
+        <translation>Voeg je bestanden toe en Varlo gaat aan de slag.</translation>
+    </message>
+    <message>
+        <source>Start renaming</source>
+        <translation>Begin met hernoemen</translation>
     </message>
 </context>
 <context>
@@ -1554,6 +1635,29 @@
     <message>
         <source>Pause</source>
         <translation>Pauzeren</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeStep</name>
+    <message>
+        <source>Welcome to Varlo</source>
+        <translation>Welkom bij Varlo</translation>
+    </message>
+    <message>
+        <source>Varlo suggests a new name based on what’s in your files.</source>
+        <translation>Varlo stelt een nieuwe naam voor op basis van wat er in je bestanden staat.</translation>
+    </message>
+    <message>
+        <source>AI reads your files and names them</source>
+        <translation>AI leest je bestanden en geeft ze een naam</translation>
+    </message>
+    <message>
+        <source>Dutch, Spanish and English</source>
+        <translation>Nederlands, Spaans en Engels</translation>
+    </message>
+    <message>
+        <source>Get Started</source>
+        <translation>Aan de slag</translation>
     </message>
 </context>
 </TS>

@@ -22,7 +22,7 @@ Window {
 
     readonly property bool isNarrow: width < 880 * Theme.textScale
     readonly property bool isEmpty: batch.count === 0
-    readonly property bool hasSheet: sheets.hasOpenSheet
+    readonly property bool hasSheet: sheets.hasOpenSheet || !root.completed ///< something lies over the content
     readonly property bool isWatching: watcher !== null && watcher.isWatching
     readonly property bool hasNotice: batch.isNothingRenameable || isKeyMissing || isWatching
     readonly property bool isKeyMissing: batch.isKeyMissing && !settings.provider.hasKey
@@ -96,7 +96,16 @@ Window {
             regions[at].nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason);
     }
 
+    RootView {
+        id: root
+        anchors.fill: parent
+        z: 1
+        content: main
+        preferences: window.settings.preferences
+        finder: window.settings.finder
+    }
     ColumnLayout {
+        id: main
         anchors.fill: parent
         spacing: 0
 

@@ -58,6 +58,7 @@ QtObject {
     readonly property int fast: isAnimated ? 90 : 0
     readonly property int base: isAnimated ? 160 : 0
     readonly property int slow: isAnimated ? 240 : 0
+    readonly property int story: isAnimated ? 360 : 0
     readonly property int spin: 900
     readonly property int sweep: 1400
 }

@@ -85,6 +85,7 @@ public:
     {
         static_cast<void>(preferences.set(Preference::uiLanguage, languageCode));
         finder.status = AutomationHost::consentNeeded;
+        settings->preferences()->setHasCompletedOnboarding(true);
         engine.addImportPath(u"qrc:/qt/qml"_s);
         engine.addImageProvider(u"icons"_s, new IconProvider);
         clock.time = QDateTime(QDate(2026, 3, 14), QTime(15, 9, 26));
@@ -285,6 +286,15 @@ static void showKeySheet(Stage &stage, const QString &key)
     stage.uiState.setProperty("showingProvider", true);
 }
 
+/// The introduction, after these buttons.
+static void introduce(Stage &stage, const QStringList &buttons)
+{
+    stage.settings->preferences()->setHasCompletedOnboarding(false);
+    QTest::qWait(100);
+    for (const QString &button : buttons)
+        press(stage, button);
+}
+
 static const std::map<QString, std::function<void(Stage &)>> &screens()
 {
     static const std::map<QString, std::function<void(Stage &)>> all {
@@ -426,6 +436,25 @@ static const std::map<QString, std::function<void(Stage &)>> &screens()
                 stage.window->resize(640, 480);
                 showKeySheet(stage, u"sk"_s);
                 stage.settings->provider()->setUp(u"http://example.org"_s, {});
+            } },
+        { u"onboarding-welcome-finder"_s, [](Stage &stage) { introduce(stage, {}); } },
+        { u"onboarding-permission-finder"_s, [](Stage &stage) { introduce(stage, { u"Get Started"_s }); } },
+        { u"onboarding-permission-granted-finder"_s,
+            [](Stage &stage) {
+                stage.finder.status = AutomationHost::noError;
+                introduce(stage, { u"Get Started"_s });
+            } },
+        { u"onboarding-linux-welcome"_s, [](Stage &stage) { introduce(stage, {}); } },
+        { u"onboarding-linux-ready"_s, [](Stage &stage) { introduce(stage, { u"Get Started"_s }); } },
+        { u"onboarding-narrow"_s,
+            [](Stage &stage) {
+                stage.window->resize(720, 560);
+                introduce(stage, {});
+            } },
+        { u"onboarding-small-finder"_s,
+            [](Stage &stage) {
+                stage.window->resize(640, 480);
+                introduce(stage, { u"Get Started"_s });
             } },
         { u"formats"_s, [](Stage &stage) { stage.uiState.setProperty("showingFormats", true); } },
         { u"history"_s,

@@ -428,5 +428,31 @@ class KeyTest(WindowTest):
         self.find("Your own key is in use.")
 
 
+class OnboardingTest(WindowTest):
+    def test_first_start_by_keyboard_alone(self):
+        self.set_preferences()
+        self.start(self.write("a.txt"))
+        self.focus()
+        self.find("Welcome to Varlo")
+        self.check_names_of_controls()
+        self.assertEqual([node.get_name() for node in below(self.frame) if node.get_role_name() == "push button"],
+                         ["Get Started"])
+        self.keys("ctrl+comma")  # there is nothing yet that could be set
+        self.wait_for_focus("Get Started")
+        self.keys("Return")
+        self.find("Varlo is ready")
+        self.stop()
+        self.assertFalse(self.preferences().get("hasCompletedOnboarding", False))
+        self.start(self.write("a.txt"))
+        self.press("Get Started")
+        self.click(self.find("Start renaming", "push button"))
+        self.wait_for_row("a.txt", "Pending")
+        until(lambda: self.preferences() == {"hasCompletedOnboarding": True}, "nothing more than that")
+        self.assertEqual(self.nodes("Settings", "dialog"), [])
+        self.stop()
+        self.start()
+        self.find("Drop your files here")
+
+
 if __name__ == "__main__":
     main()
