@@ -27,5 +27,26 @@
             <numerusform>%n names ready</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n file(s) not renamed</source>
+        <translation>
+            <numerusform>%n file not renamed</numerusform>
+            <numerusform>%n files not renamed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) renamed</source>
+        <translation>
+            <numerusform>%n file renamed</numerusform>
+            <numerusform>%n files renamed</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rename(s) taken back</source>
+        <translation>
+            <numerusform>%n rename taken back</numerusform>
+            <numerusform>%n renames taken back</numerusform>
+        </translation>
+    </message>
 </context>
 </TS>

@@ -795,6 +795,27 @@
         <extracomment>A button of a notification; opens the window with the files</extracomment>
         <translation>Revisar</translation>
     </message>
+    <message numerus="yes">
+        <source>%n file(s) not renamed</source>
+        <translation>
+            <numerusform>%n archivo sin renombrar</numerusform>
+            <numerusform>%n archivos sin renombrar</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) renamed</source>
+        <translation>
+            <numerusform>%n archivo renombrado</numerusform>
+            <numerusform>%n archivos renombrados</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rename(s) taken back</source>
+        <translation>
+            <numerusform>%n cambio revertido</numerusform>
+            <numerusform>%n cambios revertidos</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>OnboardingPicture</name>

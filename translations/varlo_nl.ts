@@ -795,6 +795,27 @@
         <extracomment>A button of a notification; opens the window with the files</extracomment>
         <translation>Bekijken</translation>
     </message>
+    <message numerus="yes">
+        <source>%n file(s) not renamed</source>
+        <translation>
+            <numerusform>%n bestand niet hernoemd</numerusform>
+            <numerusform>%n bestanden niet hernoemd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n file(s) renamed</source>
+        <translation>
+            <numerusform>%n bestand hernoemd</numerusform>
+            <numerusform>%n bestanden hernoemd</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n rename(s) taken back</source>
+        <translation>
+            <numerusform>%n hernoeming teruggezet</numerusform>
+            <numerusform>%n hernoemingen teruggezet</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>OnboardingPicture</name>

@@ -18,11 +18,6 @@ using namespace std::chrono_literals;
 
 static constexpr auto undoLimit = 10min;
 
-static QString translate(const char *text, int count)
-{
-    return QCoreApplication::translate("Notification", text, nullptr, count);
-}
-
 static Notification summaryNotification(const RenameSummary &summary)
 {
     constexpr qsizetype shownNames = 3;
@@ -31,14 +26,14 @@ static Notification summaryNotification(const RenameSummary &summary)
     if (summary.newNames.size() > shownNames)
         lines.append(u"…"_s);
     if (summary.failedCount > 0) {
-        lines.append(translate(QT_TRANSLATE_NOOP("Notification", "%n file(s) not renamed"), summary.failedCount)
+        lines.append(QCoreApplication::translate("Notification", "%n file(s) not renamed", nullptr, summary.failedCount)
             + u": "_s + summary.failure);
     } else if (!summary.failure.isEmpty()) {
         lines.append(summary.failure);
     }
     const int count = static_cast<int>(summary.entryIds.size());
     if (count > 0) {
-        result.title = translate(QT_TRANSLATE_NOOP("Notification", "%n file(s) renamed"), count);
+        result.title = QCoreApplication::translate("Notification", "%n file(s) renamed", nullptr, count);
         //: A button of a notification; takes the renames back
         result.actions = { { u"undo"_s, QCoreApplication::translate("Notification", "Undo") } };
     } else {
@@ -62,8 +57,8 @@ static Notification takeBack(const std::vector<QString> &entryIds, Session &sess
             ++count;
     }
     complaints.removeDuplicates();
-    return { translate(QT_TRANSLATE_NOOP("Notification", "%n rename(s) taken back"), count), complaints.join(u'\n'),
-        {} };
+    return { QCoreApplication::translate("Notification", "%n rename(s) taken back", nullptr, count),
+        complaints.join(u'\n'), {} };
 }
 
 /// The action that the user chose; "" for none.

@@ -83,8 +83,7 @@ class NotificationsTest(dbusmock.DBusTestCase):
     def notification(self, count):
         """The call with this number: id that it replaces, title, text, actions."""
         call = until(lambda: len(self.calls()) >= count and self.calls()[count - 1], f"notification {count}")
-        title = str(call[3]).replace("(s)", "" if " 1 " in f" {call[3]} " else "s")
-        return int(call[1]), title, str(call[4]), [str(word) for word in call[5]]
+        return int(call[1]), str(call[3]), str(call[4]), [str(word) for word in call[5]]
 
     def emit(self, name, signature, *arguments):
         self.desktop.EmitSignal(SERVICE, name, signature, list(arguments), dbus_interface=dbusmock.MOCK_IFACE)
@@ -218,7 +217,7 @@ class NotificationsTest(dbusmock.DBusTestCase):
         self.write("scan1.txt")
         self.varlo("watch", "--notify", "--include-existing", str(self.files))
         _, title, text, actions = self.notification(1)
-        self.assertEqual((title, text, actions), ("No names for 1 file", "No API key set.", []))
+        self.assertEqual((title, text, actions), ("No name for 1 file", "No API key set.", []))
 
 
 if __name__ == "__main__":
