@@ -9,7 +9,6 @@
 #include <QCoroTask>
 #include <QEventLoop>
 #include <QTimer>
-#include <ranges>
 
 namespace Varlo {
 
@@ -49,8 +48,8 @@ static Notification takeBack(const std::vector<QString> &entryIds, Session &sess
     int count = 0;
     QStringList complaints;
     const RenameLog::Action action = session.renameLog().beginAction();
-    for (const QString &id : entryIds | std::views::reverse) {
-        const RenameLog::RevertOutcome outcome = QCoro::waitFor(session.renameLog().revert(id));
+    for (auto id = entryIds.rbegin(); id != entryIds.rend(); ++id) {
+        const RenameLog::RevertOutcome outcome = QCoro::waitFor(session.renameLog().revert(*id));
         if (!outcome)
             complaints.append(visibleMessage(outcome.error()));
         else if (*outcome)

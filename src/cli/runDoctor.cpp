@@ -86,7 +86,7 @@ static Finding lookAtSandbox(const std::optional<SandboxLayers> &layers)
 static QStringList texts(const QJsonValue &array)
 {
     QStringList list;
-    for (const QJsonValue &value : array.toArray())
+    for (const QJsonValue value : array.toArray())
         list.append(visibleText(value.toString()));
     return list;
 }

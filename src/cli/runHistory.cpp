@@ -8,7 +8,6 @@
 #include <QCoreApplication>
 #include <QCoroTask>
 #include <QJsonObject>
-#include <ranges>
 
 namespace Varlo {
 
@@ -52,7 +51,9 @@ ExitCode run(const HistoryCommand &command, Session &session)
 {
     Terminal &terminal = session.terminal();
     std::vector<TableRow> rows;
-    for (const RenameLog::Entry &entry : session.renameLog().entries() | std::views::reverse) {
+    const RenameLogEntries &entries = session.renameLog().entries();
+    for (auto newest = entries.rbegin(); newest != entries.rend(); ++newest) {
+        const RenameLog::Entry &entry = *newest;
         if (!matches(entry, command.search))
             continue;
         if (command.json) {
@@ -103,11 +104,12 @@ static std::vector<QString> chosenIds(const UndoCommand &command, const RenameLo
     if (!command.ids.isEmpty())
         return { command.ids.begin(), command.ids.end() };
     std::vector<QString> ids;
-    for (const RenameLog::Entry &entry : log.entries() | std::views::reverse) {
+    const RenameLogEntries &entries = log.entries();
+    for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry) {
         if (static_cast<qsizetype>(ids.size()) == command.last)
             break;
-        if (entry.isStanding())
-            ids.push_back(entry.id());
+        if (entry->isStanding())
+            ids.push_back(entry->id());
     }
     return ids;
 }

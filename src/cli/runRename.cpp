@@ -12,7 +12,6 @@
 #include <csignal>
 #include <QCoreApplication>
 #include <QCoroTask>
-#include <ranges>
 
 namespace Varlo {
 
@@ -103,9 +102,10 @@ static void addFailure(RenameSummary &summary, const QString &reason)
 /// The newest entry of the history that led to the file as it is now; "" where the history could not take it in.
 static QString entryIdOf(const std::filesystem::path &path, const RenameLog &log)
 {
-    const auto entries = log.entries() | std::views::reverse;
-    const auto entry = std::ranges::find(entries, path, &RenameLog::Entry::toPath);
-    return entry == entries.end() ? QString() : entry->id();
+    const auto &entries = log.entries();
+    const auto entry = std::find_if(
+        entries.rbegin(), entries.rend(), [&path](const RenameLog::Entry &each) { return each.toPath == path; });
+    return entry == entries.rend() ? QString() : entry->id();
 }
 
 static void addRename(RenameSummary &summary, const FileItem &item, const RenameLog &log)

@@ -44,6 +44,7 @@ public:
     /// Selects what is listed and stands.
     Q_INVOKABLE void selectAll();
     Q_INVOKABLE void deselectAll();
+    using QSortFilterProxyModel::revert;
     Q_INVOKABLE void revert(int row);
     Q_INVOKABLE void revertSelected();
     /// Takes back the newest rename that stands, listed or not.

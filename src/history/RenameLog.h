@@ -69,6 +69,7 @@ public:
     /// The path that the file has again, in the folder where it is now; nothing when there was nothing to take back.
     /// Where there is an error, the entry still stands and nothing has moved.
     using RevertOutcome = Result<std::optional<std::filesystem::path>, Message>;
+    using QAbstractListModel::revert;
     [[nodiscard]] QCoro::Task<RevertOutcome> revert(QString id);
     /// Reverts the newest rename that stands.
     [[nodiscard]] QCoro::Task<RevertOutcome> revertLatest();

@@ -101,7 +101,7 @@ std::optional<RenameLogEntries> decodeRenameLog(const QByteArray &data)
     if (!document.isArray())
         return std::nullopt;
     RenameLogEntries entries;
-    for (const QJsonValue &value : document.array()) {
+    for (const QJsonValue value : document.array()) {
         const std::optional<RenameLogEntry> entry = decodeEntry(value);
         if (!entry)
             return std::nullopt;

@@ -154,7 +154,7 @@ static std::optional<NameTemplate> decodeTemplate(const QJsonValue &value)
     if (name.isString())
         nameTemplate.name = name.toString();
     const QJsonArray rawFields = fields.toArray();
-    for (const QJsonValue &rawField : rawFields) {
+    for (const QJsonValue rawField : rawFields) {
         const auto field = templateField(rawField.toString());
         if (!field)
             return {};
@@ -170,7 +170,7 @@ std::optional<QList<NameTemplate>> decodeTemplates(const QByteArray &json)
         return {};
     QList<NameTemplate> templates;
     const QJsonArray array = document.array();
-    for (const QJsonValue &value : array) {
+    for (const QJsonValue value : array) {
         const auto nameTemplate = decodeTemplate(value);
         if (!nameTemplate)
             return {};

@@ -144,13 +144,11 @@ static Image inEightBits(Image image)
     VipsImage *next = nullptr;
     if (!image)
         return nullptr;
-    if (!isGreyOrRGB(image.get()) && vips_image_get_typeof(image.get(), VIPS_META_ICC_NAME) != 0
-        && vips_icc_transform(image.get(), &next, "srgb", "embedded", TRUE, nullptr) == 0)
-        image.reset(next);
-    else if (vips_colourspace(image.get(), &next, VIPS_INTERPRETATION_sRGB, nullptr) == 0)
-        image.reset(next);
-    else
+    const bool isByProfile = !isGreyOrRGB(image.get()) && vips_image_get_typeof(image.get(), VIPS_META_ICC_NAME) != 0
+        && vips_icc_transform(image.get(), &next, "srgb", "embedded", TRUE, nullptr) == 0;
+    if (!isByProfile && vips_colourspace(image.get(), &next, VIPS_INTERPRETATION_sRGB, nullptr) != 0)
         return nullptr;
+    image.reset(next);
     if (image->BandFmt != VIPS_FORMAT_UCHAR) {
         if (vips_cast_uchar(image.get(), &next, nullptr) != 0)
             return nullptr;

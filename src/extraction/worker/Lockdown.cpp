@@ -167,12 +167,11 @@ static void allow(scmp_filter_ctx filter, const char *call, std::initializer_lis
     addRule(filter, SCMP_ACT_ALLOW, call, arguments);
 }
 
-static scmp_arg_cmp hasNone(unsigned argument, uint64_t bits)
-{
-    return SCMP_CMP64(argument, SCMP_CMP_MASKED_EQ, bits, 0);
-}
+static scmp_arg_cmp hasNone(unsigned argument, uint64_t bits) { return { argument, SCMP_CMP_MASKED_EQ, bits, 0 }; }
 
-static scmp_arg_cmp isExactly(unsigned argument, uint64_t value) { return SCMP_CMP64(argument, SCMP_CMP_EQ, value, 0); }
+static scmp_arg_cmp hasAll(unsigned argument, uint64_t bits) { return { argument, SCMP_CMP_MASKED_EQ, bits, bits }; }
+
+static scmp_arg_cmp isExactly(unsigned argument, uint64_t value) { return { argument, SCMP_CMP_EQ, value, 0 }; }
 
 static void allowSomeWays(scmp_filter_ctx filter, Lockdown::Threads threads)
 {
@@ -187,7 +186,7 @@ static void allowSomeWays(scmp_filter_ctx filter, Lockdown::Threads threads)
     // Its flags lie where a filter cannot look; without it the C library takes the old call.
     addRule(filter, SCMP_ACT_ERRNO(ENOSYS), "clone3", {});
     if (threads == Lockdown::Threads::Allowed)
-        allow(filter, "clone", { SCMP_CMP64(0, SCMP_CMP_MASKED_EQ, CLONE_VM | CLONE_THREAD, CLONE_VM | CLONE_THREAD) });
+        allow(filter, "clone", { hasAll(0, CLONE_VM | CLONE_THREAD) });
 }
 
 /// The kernel's instructions for the rules; none where they cannot be made.
