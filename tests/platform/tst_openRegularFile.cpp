@@ -58,7 +58,7 @@ void OpenRegularFileTest::refuses()
     QFETCH(QString, name);
     const auto opened = openRegularFile(path(name.toLatin1().constData()));
     QVERIFY(!opened);
-    QTEST(description(opened.error()), "words");
+    QTEST(description(opened.error()).text(), "words");
 }
 
 // The name changes hands all the time: whatever was looked at, what is opened may be the pipe. A wait would never end.
