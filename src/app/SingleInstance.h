@@ -10,9 +10,8 @@
 
 namespace Varlo {
 
-/// The one window of a desktop session, which a second start hands its files to. By the session bus, as the Desktop
-/// Entry Specification has it (interface org.freedesktop.Application, version 1). Without a bus every start is the
-/// first.
+/// The one window of a desktop session, which a second start hands its files to. By the session bus, through
+/// org.freedesktop.Application (version 1 of freedesktop.org's interface). Without a bus every start is the first.
 class SingleInstance final : public QObject {
     Q_OBJECT
 public:
