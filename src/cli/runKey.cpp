@@ -49,8 +49,8 @@ static QString readKey()
         return {};
     QByteArray key;
     if (::isatty(STDIN_FILENO)) {
+        const HiddenTyping hidden; // before the question: a key that is pasted at once would be seen, and thrown away
         std::fputs(qPrintable(QCoreApplication::translate("Terminal", "API key (not shown): ")), stderr);
-        const HiddenTyping hidden;
         key = input.readLine(longestKey);
         std::fputs("\n", stderr);
     } else {
