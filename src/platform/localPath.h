@@ -2,9 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <filesystem>
-#include <optional>
-#include <QByteArray>
+#include "platform/fileUri.h"
 #include <QUrl>
 
 namespace Varlo {
@@ -13,17 +11,10 @@ namespace Varlo {
 /// spoil them. Nothing for any other address.
 [[nodiscard]] inline std::optional<std::filesystem::path> localPath(const QUrl &url)
 {
-    if (!url.isLocalFile())
-        return {};
-    const QByteArray path = QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
-    return std::filesystem::path(path.toStdString());
+    return pathOfFileUri(url.toEncoded());
 }
 
 /// The address of an absolute path.
-[[nodiscard]] inline QUrl localUrl(const std::filesystem::path &path)
-{
-    const QByteArray bytes = QByteArray::fromStdString(path.native());
-    return QUrl::fromEncoded("file://" + bytes.toPercentEncoding("/"));
-}
+[[nodiscard]] inline QUrl localUrl(const std::filesystem::path &path) { return QUrl::fromEncoded(fileUri(path)); }
 
 } // namespace Varlo
