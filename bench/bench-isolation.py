@@ -85,8 +85,12 @@ class Starter:
                 size += len(message)
         return size
 
-    def workers(self):
-        return [int(pid) for pid in pathlib.Path(f"/proc/{self.process.pid}/task/{self.process.pid}/children").read_text().split()]
+    def processes(self):
+        """The starter, its branches, and the workers of them all."""
+        found = [self.process.pid]
+        for pid in found:
+            found += map(int, pathlib.Path(f"/proc/{pid}/task/{pid}/children").read_text().split())
+        return found
 
 
 def cpu_seconds(command):
@@ -142,11 +146,13 @@ def measure_memory(extractor, samples):
         chosen = {path.suffix.lower(): path for path in sorted(samples.iterdir())}
         for extension in (".pdf", ".jpg", ".webp"):  # every library but the models is loaded then
             starter.read(chosen[extension])
+        time.sleep(0.2)  # the workers end after their answers
+        idle = len(starter.processes())
         answers = [starter.ask(chosen[".pdf"], blocked=True) for _ in range(5)]
-        while len(starter.workers()) < 5:
+        while len(starter.processes()) < idle + 5:
             time.sleep(0.01)
         time.sleep(0.2)
-        memory = proportional_mib([starter.process.pid, *starter.workers()])
+        memory = proportional_mib(starter.processes())
         for answer in answers:
             answer.close()
     print(f"starter and five idle workers: {memory:.1f} MiB (target {MEMORY_TARGET_MIB})", flush=True)

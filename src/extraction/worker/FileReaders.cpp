@@ -53,12 +53,28 @@ static void loadOnce(bool isLoaded, Module &module, QLatin1StringView name, cons
         fill(module);
 }
 
+static std::string_view librariesForPDF(const WorkerJob &job)
+{
+    return job.recognizesText ? "pdf, recognition" : "pdf";
+}
+
+static bool usesFurtherDecoder(const WorkerJob &job)
+{
+    return job.usesFurtherDecoder || contains(furtherExtensions, job.extension);
+}
+
+static std::string_view librariesForPicture(const WorkerJob &job)
+{
+    return usesFurtherDecoder(job) ? "pictures, further decoder" : "pictures";
+}
+
 struct FileReaders::KindOfFile {
     using Read = WorkerAnswer (*)(
         const FileReaders &readers, const WorkerJob &job, const FileDescriptor &file, const ReportProgress &);
     using Preview = WorkerAnswer (*)(const FileReaders &readers, const WorkerJob &job, const FileDescriptor &file);
 
     std::span<const std::string_view> extensions;
+    std::string_view (*libraries)(const WorkerJob &job);
     void (*prepare)(FileReaders &readers, const WorkerJob &job);
     Read read;
     Preview preview; // null: shown by its text
@@ -70,22 +86,23 @@ const FileReaders::KindOfFile *FileReaders::kindOf(const std::string &extension)
     using File = const FileDescriptor &;
     using Self = const FileReaders &;
     using Report = const ReportProgress &;
+    constexpr auto none = [](Job) { return std::string_view(); };
     constexpr auto nothing = [](FileReaders &, Job) {};
     static constexpr std::array kinds {
-        KindOfFile { textExtensions, nothing,
+        KindOfFile { textExtensions, none, nothing,
             [](Self, Job, File file, Report) { return toAnswer(readPlainText(file)); }, nullptr },
-        KindOfFile { wordExtensions, nothing,
+        KindOfFile { wordExtensions, none, nothing,
             [](Self, Job, File file, Report) { return toAnswer(readWordDocument(file)); }, nullptr },
-        KindOfFile { spreadsheetExtensions, nothing,
+        KindOfFile { spreadsheetExtensions, none, nothing,
             [](Self, Job, File file, Report) { return toAnswer(readSpreadsheet(file)); }, nullptr },
-        KindOfFile { presentationExtensions, nothing,
+        KindOfFile { presentationExtensions, none, nothing,
             [](Self, Job, File file, Report) { return toAnswer(readPresentation(file)); }, nullptr },
-        KindOfFile { richTextExtensions, nothing,
+        KindOfFile { richTextExtensions, none, nothing,
             [](Self, Job, File file, Report) { return toAnswer(readRichText(file)); }, nullptr },
-        KindOfFile { pdfExtensions, [](FileReaders &self, Job job) { self.preparePDF(job); },
+        KindOfFile { pdfExtensions, librariesForPDF, [](FileReaders &self, Job job) { self.preparePDF(job); },
             [](Self self, Job job, File file, Report report) { return self.readPDF(job, file, report); },
             [](Self self, Job job, File file) { return self.previewPDF(job, file); } },
-        KindOfFile { imageExtensions, [](FileReaders &self, Job job) { self.preparePicture(job); },
+        KindOfFile { imageExtensions, librariesForPicture, [](FileReaders &self, Job job) { self.preparePicture(job); },
             [](Self self, Job job, File file, Report) { return self.readPicture(job, file); },
             [](Self self, Job job, File file) { return self.previewPicture(job, file); } },
     };
@@ -105,9 +122,17 @@ void FileReaders::preparePDF(const WorkerJob &job)
 void FileReaders::preparePicture(const WorkerJob &job)
 {
     loadOnce(m_pictures.read != nullptr, m_pictures, "varlo-pictures"_L1, picturesModuleEntryName);
-    if (job.usesFurtherDecoder || contains(furtherExtensions, job.extension))
+    if (usesFurtherDecoder(job))
         loadOnce(m_furtherDecoder.decoder != nullptr, m_furtherDecoder, "varlo-further-decoder"_L1,
             furtherDecoderModuleEntryName);
+}
+
+std::string_view FileReaders::libraries(const WorkerJob &job) const
+{
+    if (job.kind == WorkerJob::Kind::Inspect)
+        return "all";
+    const KindOfFile *const kind = kindOf(job.extension);
+    return kind ? kind->libraries(job) : std::string_view();
 }
 
 void FileReaders::prepare(const WorkerJob &job)

@@ -12,6 +12,7 @@ namespace Varlo {
 /// needs them. For one thread.
 class FileReaders final : public JobPerformer {
 public:
+    [[nodiscard]] std::string_view libraries(const WorkerJob &job) const override;
     void prepare(const WorkerJob &job) override;
     [[nodiscard]] bool needsThreads(const WorkerJob &job) const override;
     [[nodiscard]] WorkerAnswer perform(

@@ -6,6 +6,7 @@
 #include "extraction/isolation/WorkerJob.h"
 #include "platform/FileDescriptor.h"
 #include <functional>
+#include <string_view>
 
 namespace Varlo {
 
@@ -15,7 +16,9 @@ using ReportProgress = std::function<void()>;
 /// Does what a worker is for.
 struct JobPerformer {
     virtual ~JobPerformer() = default;
-    /// Loads in the starter, before the fork, what such a job takes: libraries, models. Looks at no file.
+    /// Names what prepare() loads for such a job; empty where that is nothing. One name always means the same.
+    [[nodiscard]] virtual std::string_view libraries(const WorkerJob &job) const = 0;
+    /// Loads in a starter, before the fork, what such a job takes: libraries, models. Looks at no file.
     virtual void prepare(const WorkerJob &job) = 0;
     /// Whether it takes a thread beside the worker's own.
     [[nodiscard]] virtual bool needsThreads(const WorkerJob &job) const = 0;

@@ -7,9 +7,12 @@
 #include <algorithm>
 #include <array>
 #include <csignal>
+#include <numeric>
 #include <poll.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/signalfd.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -27,8 +30,8 @@ static sigset_t childSignal()
     return handled;
 }
 
-Starter::Starter(const FileDescriptor &control, JobPerformer &performer, const Lockdown &lockdown)
-    : m_control(control)
+Starter::Starter(FileDescriptor control, JobPerformer &performer, const Lockdown &lockdown)
+    : m_control(std::move(control))
     , m_performer(performer)
     , m_lockdown(lockdown)
 {
@@ -48,14 +51,18 @@ void Starter::serve()
 
 void Starter::serveUntilEnd()
 {
-    for (;;) {
-        startWaiting();
-        std::array<pollfd, 2> sources { pollfd { m_control.get(), POLLIN, 0 },
-            pollfd { m_childSignals.get(), POLLIN, 0 } };
+    while (startWaiting()) {
+        std::vector<pollfd> sources { { m_control.get(), POLLIN, 0 }, { m_childSignals.get(), POLLIN, 0 } };
+        for (const Branch &branch : m_branches)
+            sources.push_back({ branch.control.get(), POLLIN, 0 });
         if (retryInterrupted([&] { return ::poll(sources.data(), sources.size(), -1); }) < 0)
             return;
-        if (sources[1].revents != 0)
-            reap();
+        for (std::size_t index = 0; index < m_branches.size(); ++index) {
+            if (sources[index + 2].revents != 0 && !takeNews(m_branches[index]))
+                return;
+        }
+        if (sources[1].revents != 0 && !reap())
+            return;
         if (sources[0].revents != 0 && !takeMessage())
             return;
     }
@@ -67,10 +74,8 @@ bool Starter::takeMessage()
     if (!received)
         return false;
     const ControlMessage &message = received->message;
-    if (message.action == ControlMessage::Action::Stop) {
-        stop(message.id);
-        return true;
-    }
+    if (message.action == ControlMessage::Action::Stop)
+        return stop(message.id);
     std::vector<FileDescriptor> &descriptors = received->descriptors;
     const std::size_t expected = message.job.kind == WorkerJob::Kind::Inspect ? 1 : 2;
     if (descriptors.size() != expected || m_waiting.size() >= mostWaiting)
@@ -82,19 +87,112 @@ bool Starter::takeMessage()
     return true;
 }
 
-void Starter::startWaiting()
+bool Starter::stop(quint32 id)
 {
-    for (; !m_waiting.empty() && m_workers.size() < mostWorkers; m_waiting.pop_front()) {
-        const WaitingJob &job = m_waiting.front();
-        m_performer.prepare(job.job);
-        const pid_t starter = ::getpid();
-        const pid_t worker = ::fork();
-        if (worker == 0)
-            work(job, starter);
-        if (worker > 0)
-            m_workers.emplace(worker, job.id);
-        // Without a worker its socket ends here, which is answer enough.
+    std::erase_if(m_waiting, [id](const WaitingJob &job) { return job.id == id; });
+    for (const auto &[worker, workerId] : m_workers) {
+        if (workerId == id)
+            ::kill(worker, SIGKILL);
     }
+    const ControlMessage message { ControlMessage::Action::Stop, id, {} };
+    return std::all_of(m_branches.begin(), m_branches.end(), [&](const Branch &branch) {
+        return !branch.jobs.contains(id) || sendControlMessage(branch.control, message, {});
+    });
+}
+
+bool Starter::takeNews(Branch &branch)
+{
+    const std::optional<ReceivedControlMessage> received = receiveControlMessage(branch.control);
+    if (received)
+        branch.jobs.erase(received->message.id);
+    return received.has_value();
+}
+
+std::size_t Starter::workerCount() const
+{
+    return std::accumulate(m_branches.begin(), m_branches.end(), m_workers.size(),
+        [](std::size_t count, const Branch &branch) { return count + branch.jobs.size(); });
+}
+
+bool Starter::startWaiting()
+{
+    while (!m_waiting.empty() && workerCount() < mostWorkers) {
+        const WaitingJob job = std::move(m_waiting.front());
+        m_waiting.pop_front();
+        if (!start(job))
+            return false;
+    }
+    return true;
+}
+
+bool Starter::start(const WaitingJob &job)
+{
+    const std::string_view libraries = m_performer.libraries(job.job);
+    if (isBranch() || libraries.empty()) {
+        startWorker(job);
+        return true;
+    }
+    Branch *const branch = branchFor(libraries);
+    return !branch || handOver(job, *branch); // without one the answer socket ends here
+}
+
+void Starter::startWorker(const WaitingJob &job)
+{
+    m_performer.prepare(job.job);
+    const pid_t starter = ::getpid();
+    const pid_t worker = ::fork();
+    if (worker == 0)
+        work(job, starter);
+    if (worker > 0)
+        m_workers.emplace(worker, job.id);
+    // Without a worker its socket ends here, which is answer enough.
+}
+
+bool Starter::handOver(const WaitingJob &job, Branch &branch)
+{
+    std::vector<int> descriptors { job.answerSocket.get() };
+    if (job.file.isOpen())
+        descriptors.push_back(job.file.get());
+    branch.jobs.insert(job.id);
+    return sendControlMessage(branch.control, { ControlMessage::Action::Start, job.id, job.job }, descriptors)
+        .has_value();
+}
+
+Starter::Branch *Starter::branchFor(std::string_view libraries)
+{
+    const auto branch = std::find_if(
+        m_branches.begin(), m_branches.end(), [libraries](const Branch &each) { return each.libraries == libraries; });
+    return branch == m_branches.end() ? makeBranch(libraries) : &*branch;
+}
+
+/// Null where it cannot be made, and in the branch itself.
+Starter::Branch *Starter::makeBranch(std::string_view libraries)
+{
+    std::array<int, 2> ends {};
+    if (::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0)
+        return nullptr;
+    FileDescriptor ours(ends[0]);
+    FileDescriptor theirs(ends[1]);
+    const pid_t starter = ::getpid();
+    const pid_t process = ::fork();
+    if (process == 0)
+        becomeBranch(std::move(theirs), libraries, starter);
+    if (process <= 0)
+        return nullptr;
+    return &m_branches.emplace_back(Branch { std::string(libraries), process, std::move(ours), {} });
+}
+
+/// Goes on as a starter with nothing to do yet. It keeps no end of a socket that others wait for the end of.
+void Starter::becomeBranch(FileDescriptor control, std::string_view libraries, pid_t starter)
+{
+    ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+    if (::getppid() != starter) // it died before that call
+        ::_exit(1);
+    m_control = std::move(control);
+    m_libraries = libraries;
+    m_waiting.clear();
+    m_workers.clear();
+    m_branches.clear();
 }
 
 static void closeAllBut(int first, int second)
@@ -122,22 +220,27 @@ void Starter::work(const WaitingJob &job, pid_t starter)
     ::_exit(0); // nothing that ends with the program is this process's to end
 }
 
-void Starter::stop(quint32 id)
-{
-    std::erase_if(m_waiting, [id](const WaitingJob &job) { return job.id == id; });
-    for (const auto &[worker, workerId] : m_workers) {
-        if (workerId == id)
-            ::kill(worker, SIGKILL);
-    }
-}
-
-void Starter::reap()
+bool Starter::reap()
 {
     // Several that ended together may have left one signal.
     signalfd_siginfo signal;
     while (::read(m_childSignals.get(), &signal, sizeof signal) > 0) { }
-    for (pid_t worker = ::waitpid(-1, nullptr, WNOHANG); worker > 0; worker = ::waitpid(-1, nullptr, WNOHANG))
-        m_workers.erase(worker);
+    bool goesOn = true;
+    for (pid_t ended = ::waitpid(-1, nullptr, WNOHANG); ended > 0; ended = ::waitpid(-1, nullptr, WNOHANG))
+        goesOn = forget(ended) && goesOn;
+    return goesOn;
+}
+
+bool Starter::forget(pid_t process)
+{
+    const auto worker = m_workers.find(process);
+    if (worker == m_workers.end()) { // a branch
+        std::erase_if(m_branches, [process](const Branch &branch) { return branch.process == process; });
+        return false;
+    }
+    const ControlMessage news { ControlMessage::Action::Stop, worker->second, {} };
+    m_workers.erase(worker);
+    return !isBranch() || sendControlMessage(m_control, news, {});
 }
 
 void Starter::endAll()
@@ -146,6 +249,10 @@ void Starter::endAll()
         ::kill(worker, SIGKILL);
     for (const auto &[worker, id] : m_workers)
         retryInterrupted([pid = worker] { return ::waitpid(pid, nullptr, 0); });
+    for (Branch &branch : m_branches) {
+        branch.control = FileDescriptor(); // at which it ends in this way too
+        retryInterrupted([&branch] { return ::waitpid(branch.process, nullptr, 0); });
+    }
 }
 
 } // namespace Varlo

@@ -17,9 +17,8 @@ int main(int argumentCount, char **arguments)
 #endif
     ::tzset(); // a worker cannot look it up
     const QCoreApplication application(argumentCount, arguments);
-    const FileDescriptor control(controlDescriptor);
     FileReaders readers;
     const Lockdown lockdown({ OwnFolders::find().modules.toStdString() });
-    Starter(control, readers, lockdown).serve();
+    Starter(FileDescriptor(controlDescriptor), readers, lockdown).serve();
     ::_exit(0); // the workers die with it
 }

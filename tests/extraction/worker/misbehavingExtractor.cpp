@@ -68,6 +68,7 @@ struct Misbehaviour final : JobPerformer {
     std::map<QString, Act> acts;
 
     Misbehaviour();
+    std::string_view libraries(const WorkerJob &job) const override { return job.extension == "pdf" ? "pdf" : ""; }
     void prepare(const WorkerJob &) override { }
     bool needsThreads(const WorkerJob &) const override { return false; }
     WorkerAnswer perform(const WorkerJob &job, const FileDescriptor &file, const ReportProgress &progress) override
@@ -187,9 +188,8 @@ Misbehaviour::Misbehaviour()
 
 int main()
 {
-    const FileDescriptor control(controlDescriptor);
     Misbehaviour misbehaviour;
     const Lockdown lockdown;
-    Starter(control, misbehaviour, lockdown).serve();
+    Starter(FileDescriptor(controlDescriptor), misbehaviour, lockdown).serve();
     ::_exit(0);
 }

@@ -50,6 +50,10 @@ struct GateOfFive final : FileFlags {
 } // namespace
 
 static const QString unsafe = u"unreadable: This file could not be read safely."_s;
+// Of files for which the extractor makes a branch of its starter, and of those whose workers the starter itself forks.
+static const QString branched = u"pdf"_s;
+static const QString unbranched = u"rtf"_s;
+static constexpr qsizetype starterAndBranch = 2;
 static const QString tooLong = u"unreadable: Reading this file took too long."_s;
 
 class IsolatedContentReaderTest : public QObject {
@@ -62,6 +66,7 @@ private slots:
     void readsFiveAtOnce();
     void readsFiveTextsAtOnce();
     void startsNothingForText();
+    void survivesItsStarter_data();
     void survivesItsStarter();
     void endsWithoutStarter_data();
     void endsWithoutStarter();
@@ -70,7 +75,7 @@ private slots:
 
 private:
     /// A file for a worker, which does what it says.
-    std::filesystem::path fileSaying(const QString &content);
+    std::filesystem::path fileSaying(const QString &content, const QString &extension = branched);
     QString read(IsolatedContentReader &reader, const QString &content);
 
     const DiskFlags m_flags;
@@ -108,9 +113,9 @@ static QList<pid_t> extractorProcesses()
     return found;
 }
 
-std::filesystem::path IsolatedContentReaderTest::fileSaying(const QString &content)
+std::filesystem::path IsolatedContentReaderTest::fileSaying(const QString &content, const QString &extension)
 {
-    QFile file(m_folder.filePath(QString::number(++m_files) + u".pdf"_s));
+    QFile file(m_folder.filePath(QString::number(++m_files) + u'.' + extension));
     if (!file.open(QFile::WriteOnly) || file.write(content.toUtf8()) < 0)
         qFatal("no room for a file");
     return file.filesystemFileName();
@@ -159,7 +164,7 @@ void IsolatedContentReaderTest::costsOneFile()
     QCOMPARE(read(reader, act), outcome);
     QCOMPARE(read(reader, fine), u"text: "_s + fine);
     QTRY_COMPARE_WITH_TIMEOUT(beside, QStringList { u"text: "_s + fine }, 60000);
-    QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), 1, 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), starterAndBranch, 60000);
 }
 
 void IsolatedContentReaderTest::waitsForWhoeverMovesOn()
@@ -186,9 +191,14 @@ void IsolatedContentReaderTest::leaksNothing()
     QCOMPARE(read(reader, u"list the environment"_s),
         u"text: GLIBC_TUNABLES LC_ALL LD_BIND_NOW MALLOC_ARENA_MAX OMP_THREAD_LIMIT QT_NO_GLIB TZ "
         u"VIPS_BLOCK_UNTRUSTED VIPS_NOVECTOR"_s);
-    QCOMPARE(read(reader, u"list descriptors"_s), u"text: open descriptors: file file file socket file"_s);
-    for (int file = 0; file < 2; ++file)
-        QCOMPARE(read(reader, u"count files"_s), u"text: 0 files were seen before this one"_s);
+    for (const QString &extension : { branched, unbranched }) {
+        QCOMPARE(describe(QCoro::waitFor(reader.read(fileSaying(u"list descriptors"_s, extension)))),
+            u"text: open descriptors: file file file socket file"_s);
+    }
+    for (const QString &extension : { branched, branched, unbranched, unbranched }) {
+        QCOMPARE(describe(QCoro::waitFor(reader.read(fileSaying(u"count files"_s, extension)))),
+            u"text: 0 files were seen before this one"_s);
+    }
 }
 
 void IsolatedContentReaderTest::readsFiveAtOnce()
@@ -196,14 +206,14 @@ void IsolatedContentReaderTest::readsFiveAtOnce()
     IsolatedContentReader reader(m_flags, options());
     QStringList outcomes;
     for (int file = 0; file < 12; ++file)
-        collect(reader, fileSaying(u"work for a while"_s), outcomes);
+        collect(reader, fileSaying(u"work for a while"_s, file % 2 == 0 ? branched : unbranched), outcomes);
     qsizetype most = 0;
     while (outcomes.size() < 12) {
         QTest::qWait(10);
         most = std::max(most, extractorProcesses().size());
     }
     QCOMPARE(outcomes, QStringList(12, u"text: it took half a second"_s));
-    QCOMPARE(most, 6); // with the starter
+    QCOMPARE(most, starterAndBranch + 5);
 }
 
 // Missing files make each reading ask for the flags, where the gate is.
@@ -234,19 +244,31 @@ void IsolatedContentReaderTest::startsNothingForText()
     QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), 1, 60000);
 }
 
+void IsolatedContentReaderTest::survivesItsStarter_data()
+{
+    QTest::addColumn<bool>("killsBranch");
+    QTest::newRow("starter") << false; // whose branch must not stay
+    QTest::newRow("branch") << true; // whose files nobody else would answer for
+}
+
 void IsolatedContentReaderTest::survivesItsStarter()
 {
+    QFETCH(bool, killsBranch);
     IsolatedContentReader reader(m_flags, options());
     reader.warmUp();
     QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), 1, 60000);
     const pid_t starter = extractorProcesses().first();
+    QCOMPARE(read(reader, u"words of a good file"_s), u"text: words of a good file"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), starterAndBranch, 60000);
+    QList<pid_t> others = extractorProcesses();
+    others.removeOne(starter);
     QStringList outcomes;
     for (int file = 0; file < 5; ++file)
-        collect(reader, fileSaying(u"work for a while"_s), outcomes);
-    QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), 6, 60000);
-    ::kill(starter, SIGKILL);
+        collect(reader, fileSaying(u"work for a while"_s, file == 0 ? unbranched : branched), outcomes);
+    QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), starterAndBranch + 5, 60000);
+    ::kill(killsBranch ? others.first() : starter, SIGKILL);
     QTRY_COMPARE_WITH_TIMEOUT(outcomes, QStringList(5, u"text: it took half a second"_s), 60000);
-    QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), 1, 60000);
+    QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), starterAndBranch, 60000);
 }
 
 void IsolatedContentReaderTest::endsWithoutStarter_data()
@@ -273,8 +295,8 @@ void IsolatedContentReaderTest::answersAfterItsEnd()
     {
         IsolatedContentReader reader(m_flags, options());
         for (int file = 0; file < 20; ++file)
-            collect(reader, fileSaying(u"hang"_s), outcomes);
-        QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), 6, 60000);
+            collect(reader, fileSaying(u"hang"_s, file % 2 == 0 ? branched : unbranched), outcomes);
+        QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), starterAndBranch + 5, 60000);
     }
     QTRY_COMPARE_WITH_TIMEOUT(outcomes, QStringList(20, unsafe), 60000);
     QTRY_VERIFY_WITH_TIMEOUT(extractorProcesses().isEmpty(), 60000);
