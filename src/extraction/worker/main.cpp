@@ -17,6 +17,7 @@ int main(int argumentCount, char **arguments)
 #endif
     ::tzset(); // a worker cannot look it up
     const QCoreApplication application(argumentCount, arguments);
+    QCoreApplication::setLibraryPaths({}); // what Qt reads by itself, it would first offer to every plugin there
     FileReaders readers;
     const Lockdown lockdown({ OwnFolders::find().modules.toStdString() });
     Starter(FileDescriptor(controlDescriptor), readers, lockdown).serve();

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "extraction/pictures/decodeWithQt.h"
 #include "extraction/pictures/makeThumbnail.h"
 #include "extraction/worker/ReaderModules.h"
-#include <QImageReader>
 
 using namespace Varlo;
 
@@ -31,10 +31,5 @@ extern "C" Q_DECL_EXPORT void varloPictures2(PicturesModule &module)
 {
     module.read = readImage;
     module.preview = preview;
-    // Also loads Qt's plugins, which a worker would otherwise do each time.
-    const QList<QByteArray> formats = QImageReader::supportedImageFormats();
-    for (const char *const format : { "gif", "bmp", "ico", "icns" }) {
-        if (!formats.contains(format))
-            module.missingFormats.append(QString::fromLatin1(format));
-    }
+    module.missingFormats = loadQtFormats();
 }
