@@ -143,10 +143,6 @@
         <translation>La solicitud se canceló.</translation>
     </message>
     <message>
-        <source>The API key holds characters that cannot be sent. Save it again.</source>
-        <translation>La clave de API contiene caracteres que no se pueden enviar. Guárdala de nuevo.</translation>
-    </message>
-    <message>
         <source>The connection was closed before an answer came.</source>
         <translation>La conexión se cerró antes de recibir respuesta.</translation>
     </message>
@@ -721,6 +717,10 @@
 </context>
 <context>
     <name>NameSuggestionError</name>
+    <message>
+        <source>The API key holds characters that cannot be sent. Save it again.</source>
+        <translation>La clave de API contiene caracteres que no se pueden enviar. Guárdala de nuevo.</translation>
+    </message>
     <message>
         <source>No API key set.</source>
         <extracomment>Shown in a file&apos;s row when the user has not stored a key for the model yet</extracomment>

@@ -143,10 +143,6 @@
         <translation>De aanvraag is afgebroken.</translation>
     </message>
     <message>
-        <source>The API key holds characters that cannot be sent. Save it again.</source>
-        <translation>De API-sleutel bevat tekens die niet verstuurd kunnen worden. Bewaar hem opnieuw.</translation>
-    </message>
-    <message>
         <source>The connection was closed before an answer came.</source>
         <translation>De verbinding is verbroken voordat er antwoord kwam.</translation>
     </message>
@@ -721,6 +717,10 @@
 </context>
 <context>
     <name>NameSuggestionError</name>
+    <message>
+        <source>The API key holds characters that cannot be sent. Save it again.</source>
+        <translation>De API-sleutel bevat tekens die niet verstuurd kunnen worden. Bewaar hem opnieuw.</translation>
+    </message>
     <message>
         <source>No API key set.</source>
         <extracomment>Shown in a file&apos;s row when the user has not stored a key for the model yet</extracomment>

@@ -62,6 +62,8 @@ Application::Application(const Environment &environment)
     , m_settings(m_preferences, m_templateStore, m_folderAccess, nullptr, m_suggester, m_locale)
     , m_updater(updateChecker(), QVersionNumber::fromString(QStringLiteral(VARLO_VERSION)), &QDesktopServices::openUrl)
 {
+    QObject::connect(
+        m_settings.provider(), &ProviderModel::keyCame, m_batch.get(), &RenamerViewModel::askAgainForWantOfKey);
 }
 
 Application::~Application() = default;
@@ -73,6 +75,7 @@ void Application::retranslate()
     m_historyView.retranslate();
     m_updater.retranslate();
     m_settings.retranslate();
+    m_quickLook.retranslate();
     emit m_templateChoices.changed();
     emit m_uiState.languageChanged();
 }

@@ -66,10 +66,8 @@ static Result<QByteArray, NameSuggestionError> headerValue(const Result<QString,
     if (key.isEmpty())
         return failure(MissingAPIKey {});
     const auto isControl = [](QChar character) { return character.category() == QChar::Other_Control; };
-    if (std::any_of(key.begin(), key.end(), isControl)) {
-        return transportFailure(words(QT_TRANSLATE_NOOP(
-            "ClaudeNameSuggester", "The API key holds characters that cannot be sent. Save it again.")));
-    }
+    if (std::any_of(key.begin(), key.end(), isControl))
+        return failure(UnusableAPIKey {});
     return key.toUtf8();
 }
 

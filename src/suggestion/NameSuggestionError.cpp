@@ -21,6 +21,10 @@ Message description(const NameSuggestionError &error)
                 return words(QT_TRANSLATE_NOOP(
                     "NameSuggestionError", "The keyring that holds your API key is locked. Unlock it and try again."));
             },
+            [&](UnusableAPIKey) {
+                return words(QT_TRANSLATE_NOOP(
+                    "NameSuggestionError", "The API key holds characters that cannot be sent. Save it again."));
+            },
             //: Shown in a file's row when the model's reply holds no usable file name
             [&](InvalidResponse) {
                 return words(QT_TRANSLATE_NOOP("NameSuggestionError", "Unexpected response from the model."));
@@ -30,6 +34,20 @@ Message description(const NameSuggestionError &error)
                 return words(QT_TRANSLATE_NOOP("NameSuggestionError", "The file has no readable content."));
             },
         },
+        error);
+}
+
+bool isForWantOfKey(const NameSuggestionError &error)
+{
+    return std::visit(Overloaded {
+                          [](const ApiError &refusal) { return refusal.isKeyRefused; },
+                          [](const TransportError &) { return false; },
+                          [](MissingAPIKey) { return true; },
+                          [](LockedAPIKey) { return true; },
+                          [](UnusableAPIKey) { return true; },
+                          [](InvalidResponse) { return false; },
+                          [](NoReadableContent) { return false; },
+                      },
         error);
 }
 

@@ -11,6 +11,7 @@ namespace Varlo {
 /// The endpoint refused; the message is the endpoint's own.
 struct ApiError {
     QString message;
+    bool isKeyRefused = false; ///< the key is unknown, or may not do this
 
     bool operator==(const ApiError &) const = default;
 };
@@ -27,6 +28,10 @@ struct MissingAPIKey {
 struct LockedAPIKey {
     bool operator==(const LockedAPIKey &) const = default;
 };
+/// The key holds characters that no request can carry.
+struct UnusableAPIKey {
+    bool operator==(const UnusableAPIKey &) const = default;
+};
 struct InvalidResponse {
     bool operator==(const InvalidResponse &) const = default;
 };
@@ -34,10 +39,12 @@ struct NoReadableContent {
     bool operator==(const NoReadableContent &) const = default;
 };
 /// Why no name came back.
-using NameSuggestionError
-    = std::variant<ApiError, TransportError, MissingAPIKey, LockedAPIKey, InvalidResponse, NoReadableContent>;
+using NameSuggestionError = std::variant<ApiError, TransportError, MissingAPIKey, LockedAPIKey, UnusableAPIKey,
+    InvalidResponse, NoReadableContent>;
 
 /// The words shown to the user.
 [[nodiscard]] Message description(const NameSuggestionError &error);
+/// Whether the key is at fault, so that another one may bring the name.
+[[nodiscard]] bool isForWantOfKey(const NameSuggestionError &error);
 
 } // namespace Varlo

@@ -14,6 +14,10 @@ ProviderModel::ProviderModel(Preferences &preferences, ConfiguredNameSuggester &
     , m_preferences(preferences)
     , m_suggester(suggester)
 {
+    connect(this, &ProviderModel::hasKeyChanged, this, [this] {
+        if (hasKey())
+            emit keyCame();
+    });
     followKeyStore();
     connect(&suggester, &ConfiguredNameSuggester::changed, this, [this] {
         followKeyStore();
@@ -83,10 +87,11 @@ QCoro::Task<void> ProviderModel::save(QString key)
     if (!self)
         co_return;
     setSaving(false);
-    if (saved)
-        emit keySaved();
-    else
-        emit keyNotSaved();
+    if (!saved)
+        co_return emit keyNotSaved();
+    emit keySaved();
+    if (self)
+        emit keyCame();
 }
 
 void ProviderModel::removeKey()

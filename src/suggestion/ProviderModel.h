@@ -65,6 +65,8 @@ signals:
     void testChanged();
     void keySaved();
     void keyNotSaved();
+    /// What failed for want of a key may be asked again: one was saved, or is found that was not known of.
+    void keyCame();
 
 private:
     void followKeyStore();

@@ -16,7 +16,8 @@ using namespace Qt::StringLiterals;
 static ApiError refusal(int httpStatus, const QByteArray &body)
 {
     const QJsonValue message = QJsonDocument::fromJson(body).object().value("error"_L1).toObject().value("message"_L1);
-    return { message.isString() ? message.toString() : "HTTP "_L1 + QString::number(httpStatus) };
+    return { message.isString() ? message.toString() : "HTTP "_L1 + QString::number(httpStatus),
+        httpStatus == 401 || httpStatus == 403 }; // RFC 9110: credentials not valid, or not enough
 }
 
 static TransportError undecodable(const Message &reason)

@@ -45,6 +45,17 @@ QString QuickLook::newName() const
     return name.isEmpty() ? QString() : name + role(RenamerViewModel::ExtensionRole).toString();
 }
 
+QString QuickLook::message() const
+{
+    return std::visit(Overloaded {
+                          [](std::monostate) { return QString(); },
+                          [](const Unreadable &unreadable) { return visibleMessage(unreadable.message); },
+                          [](NoTextFound) { return label(FileItem::NoTextFound {}); },
+                          [](NotSupportedYet) { return label(FileItem::NotSupportedYet {}); },
+                      },
+        m_nothing);
+}
+
 void QuickLook::open(int row, double pixelRatio)
 {
     if (row < 0 || row >= m_batch.rowCount())
@@ -91,7 +102,7 @@ void QuickLook::clearContent()
     m_isReading = false;
     m_picture = {};
     m_text.clear();
-    m_message.clear();
+    m_nothing = {};
 }
 
 QCoro::Task<void> QuickLook::read()
@@ -130,9 +141,9 @@ void QuickLook::take(const Preview &preview)
                        m_picture = QImage(pixels, width, picture.size.height(), width * 3, QImage::Format_RGB888)
                                        .convertToFormat(QImage::Format_RGB32);
                    },
-                   [this](const Unreadable &unreadable) { m_message = visibleMessage(unreadable.message); },
-                   [this](NoTextFound) { m_message = label(FileItem::NoTextFound {}); },
-                   [this](NotSupportedYet) { m_message = label(FileItem::NotSupportedYet {}); },
+                   [this](const Unreadable &unreadable) { m_nothing = unreadable; },
+                   [this](NoTextFound) { m_nothing = NoTextFound {}; },
+                   [this](NotSupportedYet) { m_nothing = NotSupportedYet {}; },
                },
         preview);
 }

@@ -44,7 +44,9 @@ public:
     [[nodiscard]] QImage picture() const { return m_picture; } ///< null where there is none
     [[nodiscard]] QVariant shownPicture() const { return m_picture; }
     [[nodiscard]] QString text() const { return m_text; } ///< the first lines; "" for none
-    [[nodiscard]] QString message() const { return m_message; } ///< why there is nothing to see; "" otherwise
+    [[nodiscard]] QString message() const; ///< why there is nothing to see; "" otherwise
+    /// The message is asked for again, in another language.
+    void retranslate() { emit contentChanged(); }
 
 signals:
     void isOpenChanged();
@@ -68,7 +70,7 @@ private:
     bool m_isReading = false;
     QImage m_picture;
     QString m_text;
-    QString m_message;
+    std::variant<std::monostate, Unreadable, NoTextFound, NotSupportedYet> m_nothing; ///< why there is nothing to see
 };
 
 } // namespace Varlo

@@ -40,6 +40,7 @@ struct FileItem {
     };
     struct Failed { ///< a suggestion or a rename failed
         Message message; ///< why
+        bool isForWantOfKey = false; ///< another API key may bring the name
 
         bool operator==(const Failed &) const = default;
     };

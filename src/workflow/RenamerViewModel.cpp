@@ -341,7 +341,7 @@ QCoro::Task<RenamerViewModel::SuggestionResult> RenamerViewModel::suggestionFor(
     } else if (std::holds_alternative<NoReadableContent>(suggestion.error())) {
         result.status = FileItem::NoTextFound {};
     } else {
-        result.status = FileItem::Failed { description(suggestion.error()) };
+        result.status = FileItem::Failed { description(suggestion.error()), isForWantOfKey(suggestion.error()) };
     }
     co_return result;
 }
@@ -363,6 +363,16 @@ void RenamerViewModel::resetSuggestions()
             continue;
         setStatus(row, FileItem::Pending {});
         setSuggestion(row, {}, {});
+    }
+}
+
+void RenamerViewModel::askAgainForWantOfKey()
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        const FileItem &item = m_files[static_cast<std::size_t>(row)];
+        const auto *failed = std::get_if<FileItem::Failed>(&item.status);
+        if (failed && failed->isForWantOfKey && item.suggestedName.isEmpty())
+            setStatus(row, FileItem::Pending {});
     }
 }
 

@@ -130,6 +130,9 @@ public:
     /// nothing while a run is under way: that run takes what has become pending meanwhile.
     QCoro::Task<void> suggestAll();
 
+    /// Returns to pending what failed for want of a key, but where a name was typed instead.
+    void askAgainForWantOfKey();
+
     /// What the user typed in the row; a rename uses it as it is. A file that is being or was renamed keeps its name.
     Q_INVOKABLE void setSuggestedName(int row, const QString &name);
     /// The files that "Rename All" would rename now: suggested, already renamed, without text or failed, and with a

@@ -248,12 +248,14 @@ void ClaudeNameSuggesterTest::failsWith_data()
         QTest::newRow(slip) << reply << error;
     };
     const auto message = [](const QByteArray &text) { return R"({"error":{"message":")" + text + R"("}})"; };
-    row("message lost", Server::answer(401, message("invalid x-api-key")), ApiError { u"invalid x-api-key"_s });
+    row("message lost", Server::answer(401, message("invalid x-api-key")), ApiError { u"invalid x-api-key"_s, true });
+    row("key of a stranger taken for a fault of the server", Server::answer(403, "no"),
+        ApiError { u"HTTP 403"_s, true });
     row("message changed", Server::answer(400, message(R"(<b>\u001b[2J %1 ü)")), ApiError { u"<b>\x1b[2J %1 ü"_s });
     row("message cut", Server::answer(529, message(QByteArray(1'000'000, 'm'))),
         ApiError { u"m"_s.repeated(1'000'000) });
     row("key repeated", Server::answer(401, message("no key '" + testKey.toUtf8() + "'")),
-        ApiError { u"no key '•••'"_s });
+        ApiError { u"no key '•••'"_s, true });
     row("page for a browser", Server::answer(500, "<html>oops</html>"), ApiError { u"HTTP 500"_s });
     row("message no text", Server::answer(529, R"({"error":{"message":{}}})"), ApiError { u"HTTP 529"_s });
     row("error no object", Server::answer(404, R"({"error":"gone"})"), ApiError { u"HTTP 404"_s });

@@ -352,6 +352,9 @@ class KeyTest(WindowTest):
         self.keys("Return")
         self.wait_for_none("Use your own provider", "dialog")
         self.wait_for_none("No API key set.", "alert")
+        self.wait_for_row("a.txt", "Pending")  # to be asked again, at a press
+        self.press("Suggest Names")
+        self.wait_for_row("a.txt", "Suggested", "Offered.txt")
         self.assertIn("A key is stored", self.terminal("key", "status"))
 
         self.press("Settings")

@@ -132,7 +132,12 @@ class ShellTest(WindowTest):
         self.terminal("config", "set", "uiLanguage", "es")
         self.find("Renombrar todo", "push button")
         self.wait_for_row("a.txt", "Error")
+        self.focus()
+        self.keys("Home", "space")
+        look = self.find("empty.txt", "dialog")
+        self.find("Sin texto", within=look)
         self.terminal("config", "set", "uiLanguage", "en")
+        self.find("No text found", within=look)
         self.wait_for_row("a.txt", "Failed")
 
     def test_second_start_hands_its_files_over(self):

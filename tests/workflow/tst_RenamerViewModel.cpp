@@ -22,6 +22,7 @@ private slots:
     void asksWithTheSettingsOfThePass();
     void dropsResultsOfClearedFiles();
     void resetsOnlySuggestedFilesOnAChoice();
+    void asksAgainForWantOfKeyAlone();
     void mayBeDestroyedDuringEverything();
     void keepsItsCounts();
     void showsNothingThatActs();
@@ -263,6 +264,28 @@ void RenamerViewModelTest::resetsOnlySuggestedFilesOnAChoice()
     test.suggest();
     test.batch->setSelectedTemplateID({});
     QCOMPARE(test.statuses(), reset);
+}
+
+void RenamerViewModelTest::asksAgainForWantOfKeyAlone()
+{
+    TestBatch test;
+    const std::map<std::string, NameSuggestionError> errors { { "a keyless", MissingAPIKey {} },
+        { "b locked", LockedAPIKey {} }, { "c unsendable", UnusableAPIKey {} },
+        { "d refused", ApiError { u"invalid x-api-key"_s, true } }, { "e busy", ApiError { u"HTTP 529"_s } },
+        { "f offline", TransportError { u"Connection refused"_s } }, { "g named by hand", MissingAPIKey {} } };
+    for (const auto &[name, error] : errors) {
+        test.make("f/" + name + ".txt");
+        test.suggester.errors.insert_or_assign(QString::fromStdString(name), error);
+    }
+    test.add({ test.folder / "f" });
+    test.suggest();
+    test.batch->setSuggestedName(6, u"typed"_s);
+    test.batch->askAgainForWantOfKey();
+    QCOMPARE(test.statuses(),
+        (QStringList { u"pending"_s, u"pending"_s, u"pending"_s, u"pending"_s, u"failed: HTTP 529"_s,
+            u"failed: Connection refused"_s, u"failed: No API key set."_s }));
+    QCOMPARE(test.batch->files()[6].suggestedName, u"typed"_s);
+    QVERIFY(test.batch->hasPending());
 }
 
 void RenamerViewModelTest::mayBeDestroyedDuringEverything()
