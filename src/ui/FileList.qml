@@ -69,6 +69,12 @@ FocusScope {
         highlightMoveDuration: 0
         keyNavigationEnabled: false
         T.ScrollBar.vertical: ScrollThumb { }
+        Connections {
+            target: list.batch
+            // Else the view calls off a row that is being made when its number is no longer one, and Qt complains.
+            function onModelAboutToBeReset() { view.model = null; }
+            function onModelReset() { view.model = Qt.binding(() => list.batch); }
+        }
 
         property bool isByKeyboard: false
         onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0

@@ -11,7 +11,7 @@ import os
 import re
 import subprocess
 
-from window_driver import DRAG_SOURCE, WindowTest, below, main, until
+from window_driver import DRAG_SOURCE, PATIENCE, WINDOW, WindowTest, below, main, until
 
 
 class MainWindowTest(WindowTest):
@@ -181,6 +181,15 @@ class MainWindowTest(WindowTest):
         self.stop()
         self.start(str(self.files / "Offered.txt"))
         self.wait_for_row("Offered.txt", "Already renamed")
+
+    def test_ending_while_rows_are_made_says_nothing(self):
+        self.start()
+        self.stop()
+        for index in range(200):
+            self.write(f"{index}.txt")
+        self.window = subprocess.Popen([WINDOW, str(self.files)], stderr=self.stderr,
+                                       env=self.environment | {"VARLO_QUIT_AT_ROWS": "200"})
+        self.assertEqual(self.window.wait(PATIENCE), 0)  # and what it said is looked at with every test
 
     def test_names_are_text_and_nothing_else(self):
         names = ["<b>x.txt", "<img src='x'>.txt", "annex\u202etxt.txt", "two\nlines.txt"]
