@@ -160,6 +160,8 @@ Window {
                     iconName: "folder-question"
                     title: qsTr("Nothing here Varlo can rename.")
                     below: SupportedFormatsLine {
+                        Layout.topMargin: -5 // the link is higher than a line of words
+                        Layout.bottomMargin: -5
                         count: window.uiState.supportedCount
                         ink: "#5E4A22"
                         linkInk: Theme.warn

@@ -9,7 +9,8 @@ QtObject {
 
     function bytes(count: real): string {
         const digits = count < 1e6 ? 0 : 1;
-        return Qt.locale(locale).formattedDataSize(count, digits, Locale.DataSizeSIFormat);
+        const text = Qt.locale(locale).formattedDataSize(count, digits, Locale.DataSizeSIFormat);
+        return /^(C|en)/.test(Qt.locale(locale).name) ? text.replace("kB", "KB") : text; // as English desktops write it
     }
     /// A name between marks (Unicode's UAX #9) that keep its extension at its right end and its direction of writing
     /// from turning what stands beside it.

@@ -16,7 +16,8 @@ OptionPicker {
     caption: qsTr("Choose template")
     chevron: "chevron-down"
     popoverWidth: 344
-    options: Array.from([{ id: "", name: qsTr("Default"), detail: qsTr("The AI picks the name structure") }])
+    options: Array.from([{ id: "", name: qsTr("Default"), detail: qsTr("The AI picks the name structure"),
+        isApart: true }])
         .concat(templates)
     editHelpFor: option => option.id === "" ? "" : option.name
     editDescription: qsTr("Templates")
@@ -62,6 +63,9 @@ OptionPicker {
                         text: qsTr("Delete Template…")
                         ink: Theme.bad
                         textSize: 11
+                        iconName: "trash"
+                        iconSize: 14
+                        isIconFirst: true
                         implicitHeight: 20
                         onClicked: {
                             picker.close();

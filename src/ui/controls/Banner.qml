@@ -53,6 +53,11 @@ Rectangle {
                 visible: children.length > 0
             }
         }
-        RowLayout { id: buttons; spacing: 8 }
+        RowLayout {
+            id: buttons
+            visible: children.length > 0
+            Layout.fillWidth: false // a layout would take its part of what the words leave
+            spacing: 8
+        }
     }
 }

@@ -11,6 +11,8 @@ T.Button {
     property color ink: Theme.accent
     property int textSize: 13
     property string iconName ///< behind the word
+    property int iconSize: 16
+    property bool isIconFirst: false
 
     implicitWidth: contentItem.implicitWidth
     implicitHeight: Math.max(28, label.implicitHeight)
@@ -23,6 +25,7 @@ T.Button {
 
     contentItem: Row {
         spacing: 5
+        layoutDirection: link.isIconFirst ? Qt.RightToLeft : Qt.LeftToRight
         Label {
             id: label
             anchors.verticalCenter: parent.verticalCenter
@@ -37,7 +40,7 @@ T.Button {
             visible: link.iconName !== ""
             anchors.verticalCenter: parent.verticalCenter
             name: link.iconName
-            size: 16
+            size: link.iconSize
             color: link.ink
         }
     }

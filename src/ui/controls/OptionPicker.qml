@@ -4,7 +4,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Varlo
 
-/// Shows the choice made and opens a popover with one row per option. `options` is a list of { id, name, detail }.
+/// Shows the choice made and opens a popover with one row per option. `options` is a list of { id, name, detail,
+/// isApart }, the last two optional.
 T.AbstractButton {
     id: picker
 
@@ -139,6 +140,7 @@ T.AbstractButton {
                         isSelected: modelData.id === picker.selection
                         name: modelData.name
                         detail: modelData.detail ?? ""
+                        isApart: modelData.isApart ?? false
                         editHelp: picker.editHelpFor(modelData)
                         editDescription: picker.editDescription
                         onIsHighlightedChanged: if (isHighlighted) picker.highlightedId = modelData.id

@@ -12,11 +12,14 @@ T.RadioButton {
     required property string name
     property string detail ///< a second line
     property bool showsRadio: true
+    property bool isApart: false ///< a line below it
     property string editHelp ///< names the pencil, which is there with it
     property string editDescription
     signal editRequested
 
-    implicitHeight: Theme.text(detail === "" ? 36 : 50)
+    implicitHeight: Theme.text(detail === "" ? 36 : 50) + bottomInset
+    bottomInset: isApart ? 13 : 0
+    bottomPadding: bottomInset
     leftPadding: 10
     rightPadding: editHelp === "" ? 10 : 40
     checked: isSelected
@@ -72,6 +75,13 @@ T.RadioButton {
         border { width: row.visualFocus ? 2 : 0; color: Theme.accent }
     }
 
+    Rectangle {
+        visible: row.isApart
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+        anchors { leftMargin: 10; rightMargin: 10; bottomMargin: 6 }
+        height: 1
+        color: Theme.line
+    }
     ChromeIconButton {
         visible: row.editHelp !== ""
         anchors { right: parent.right; rightMargin: 6; verticalCenter: parent.verticalCenter }
