@@ -13,7 +13,9 @@ Rectangle {
         ink: Theme.accent
         thickness: 2
     }
+    Shadow { anchors.fill: pill; radius: 26 }
     Rectangle {
+        id: pill
         anchors.centerIn: parent
         width: line.implicitWidth + 42
         height: 52

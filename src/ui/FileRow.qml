@@ -89,7 +89,7 @@ FocusScope {
         id: current
         x: 66
         y: row.isNarrow ? (row.showsField ? Theme.text(12) : Theme.text(30))
-            : (row.height - height - detail.height - (row.isFailed ? 0 : 1)) / 2
+            : (row.height - height - detail.height - 1) / 2
         width: Math.min(implicitWidth, row.isNarrow ? row.width - 66 - 14 - 10 - pill.width : row.namesWidth)
         height: Theme.text(20)
         text: Format.isolated(row.fileName)
@@ -104,13 +104,14 @@ FocusScope {
     Item { // one line below the name, by priority
         id: detail
         x: 66
-        y: current.y + current.height + (row.isFailed ? 0 : 1)
+        y: current.y + current.height + Theme.text(row.isNarrow ? 5 : 1)
         width: row.isNarrow ? row.width - 80 : row.namesWidth
-        height: row.isFailed ? failure.height : Theme.text(20)
+        height: Math.max(Theme.text(20), row.isFailed ? failure.height - 1 : 0)
 
         Label {
             id: failure
             visible: row.isFailed
+            anchors.verticalCenter: parent.verticalCenter
             width: parent.width
             text: row.message
             size: 12

@@ -12,7 +12,7 @@ Sheet {
 
     title: qsTr("Supported formats")
     wishedWidth: 620
-    wishedHeight: content.implicitHeight + header.implicitHeight + 14
+    wishedHeight: header.implicitHeight + 6 + flickable.contentHeight
 
     contentItem: ColumnLayout {
         spacing: 0
@@ -25,9 +25,11 @@ Sheet {
             onCloseRequested: sheet.close()
         }
         Flickable {
+            id: flickable
             Layout.fillWidth: true
             Layout.fillHeight: true
-            contentHeight: content.implicitHeight
+            Layout.topMargin: 6
+            contentHeight: content.implicitHeight + 26
             clip: true
             boundsBehavior: Flickable.StopAtBounds
             ColumnLayout {
@@ -46,6 +48,7 @@ Sheet {
                         Row {
                             spacing: 8
                             Label {
+                                height: Theme.text(16)
                                 text: section.modelData.title
                                 size: 11
                                 color: Theme.ink3
@@ -81,7 +84,6 @@ Sheet {
                         }
                     }
                 }
-                Item { height: 8 }
             }
         }
     }

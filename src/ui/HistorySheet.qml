@@ -166,14 +166,14 @@ Sheet {
             }
         }
         Rectangle {
-            visible: sheet.history.selectedCount === 0
             Layout.fillWidth: true
             implicitHeight: 1
-            color: Theme.line
+            color: sheet.history.selectedCount > 0 ? "transparent" : Theme.line
         }
         RowLayout {
             Layout.fillWidth: true
             Layout.margins: 12
+            Layout.bottomMargin: 14
             Layout.leftMargin: 24
             Layout.rightMargin: 20
             spacing: 5

@@ -30,6 +30,7 @@ RowLayout {
         Layout.maximumWidth: implicitWidth
         Layout.fillWidth: true
         Layout.minimumWidth: 72
+        caption: qsTr("Filename language")
         options: bar.languageOptions
         selection: bar.batch.languageId
         Accessible.name: qsTr("Filename language")

@@ -61,6 +61,15 @@ Rectangle {
                 background: Rectangle {
                     radius: height / 2
                     color: pill.isOn ? Theme.surface : pill.hovered ? Theme.fillPressed : "transparent"
+                    Rectangle {
+                        visible: pill.isOn
+                        z: -1
+                        y: 1
+                        width: parent.width
+                        height: parent.height
+                        radius: height / 2
+                        color: "#2E342C20"
+                    }
                     Loader {
                         anchors.fill: parent
                         active: pill.visualFocus

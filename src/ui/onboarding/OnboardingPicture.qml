@@ -4,17 +4,29 @@ import QtQuick
 import Varlo
 
 /// Untidy names that become good ones, step by step.
-Rectangle {
+Canvas {
     id: picture
 
     required property string step
     readonly property var named: ({ welcome: [1, 2], permission: [0, 1, 2], ready: [0, 1, 2, 3] })[step]
 
-    radius: 18
-    gradient: Gradient {
-        GradientStop { position: 0; color: "#12697F" }
-        GradientStop { position: .6; color: "#0A5063" }
-        GradientStop { position: 1; color: "#083F4E" }
+    onWidthChanged: requestPaint()
+    onHeightChanged: requestPaint()
+    onPaint: {
+        // From corner to corner at 20 degrees from the upright, which a rectangle's own gradient cannot do.
+        const angle = 20 / 180 * Math.PI;
+        const half = (width * Math.sin(angle) + height * Math.cos(angle)) / 2;
+        const x = half * Math.sin(angle);
+        const y = half * Math.cos(angle);
+        const c = getContext("2d");
+        c.reset();
+        const stage = c.createLinearGradient(width / 2 - x, height / 2 - y, width / 2 + x, height / 2 + y);
+        stage.addColorStop(0, "#12697F");
+        stage.addColorStop(.6, "#0A5063");
+        stage.addColorStop(1, "#083F4E");
+        c.fillStyle = stage;
+        c.roundedRect(0, 0, width, height, 18, 18);
+        c.fill();
     }
     Accessible.ignored: true
 

@@ -50,7 +50,7 @@ Item {
                 text: row.title
                 elide: row.titleElide
                 font.weight: row.isTitleStrong ? Font.Medium : Font.Normal
-                lineHeight: 20
+                lineHeight: Theme.text(20)
                 lineHeightMode: Text.FixedHeight
                 HoverHandler { id: hover }
                 Tip { text: row.help; isWanted: hover.hovered && row.help !== "" }
@@ -62,6 +62,8 @@ Item {
                 size: 12
                 color: Theme.ink3
                 wrapMode: Text.Wrap
+                lineHeight: Theme.text(17)
+                lineHeightMode: Text.FixedHeight
             }
         }
         RowLayout { id: controls; spacing: 12 }

@@ -154,6 +154,8 @@ ColumnLayout {
                 size: 12
                 font.weight: Font.DemiBold
                 color: Theme.ink3
+                lineHeight: Theme.text(16)
+                lineHeightMode: Text.FixedHeight
             }
             Label {
                 Layout.fillWidth: true
