@@ -12,10 +12,12 @@ QtObject {
         const text = Qt.locale(locale).formattedDataSize(count, digits, Locale.DataSizeSIFormat);
         return /^(C|en)/.test(Qt.locale(locale).name) ? text.replace("kB", "KB") : text; // as English desktops write it
     }
-    /// A name between marks (Unicode's UAX #9) that keep its extension at its right end and its direction of writing
-    /// from turning what stands beside it.
+    /// A name that has letters written from right to left, or signs beyond 16 bits that may be such, between marks
+    /// (Unicode's UAX #9) that keep its extension at its right end and its direction of writing from turning what stands
+    /// beside it. Others need none, and for the marks another font would be looked for.
     function isolated(name: string): string {
-        return String.fromCharCode(0x2066) + name + String.fromCharCode(0x2069);
+        return /[\u0590-\u08FF\uD800-\uDFFF\uFB1D-\uFDFF\uFE70-\uFEFF]/.test(name)
+            ? String.fromCharCode(0x2066) + name + String.fromCharCode(0x2069) : name;
     }
     /// What there is of it, with the separator between.
     function joined(texts: var, separator: string): string {
