@@ -6,9 +6,10 @@
 #include "templates/FilenameLanguage.h"
 #include "workflow/FileItem.h"
 #include <algorithm>
-#include <QFontInfo>
+#include <QFont>
 #include <QGuiApplication>
 #include <QLocale>
+#include <QScreen>
 #include <QStyleHints>
 #include <QVariantMap>
 
@@ -23,7 +24,13 @@ AppUIState::AppUIState(QObject *parent)
 
 double AppUIState::textScale() const
 {
-    return std::clamp(QFontInfo(QGuiApplication::font()).pixelSize() / 13.0, 1.0, 1.6);
+    // Not QFontInfo, which would load a font of a size that no text has.
+    const QFont font = QGuiApplication::font();
+    constexpr double pointsPerInch = 72;
+    const double pixels = font.pixelSize() > 0
+        ? font.pixelSize()
+        : font.pointSizeF() * QGuiApplication::primaryScreen()->logicalDotsPerInchY() / pointsPerInch;
+    return std::clamp(pixels / 13.0, 1.0, 1.6);
 }
 
 bool AppUIState::isAnimated() const { return m_isMotionWanted && !qEnvironmentVariableIsSet("VARLO_NO_ANIMATIONS"); }
