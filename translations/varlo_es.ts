@@ -180,7 +180,7 @@
     </message>
 </context>
 <context>
-    <name>ContentView</name>
+    <name>NothingRenameableBanner</name>
     <message>
         <source>Nothing here Varlo can rename.</source>
         <translation>Aquí no hay nada que Varlo pueda renombrar.</translation>
@@ -189,6 +189,9 @@
         <source>Dismiss</source>
         <translation>Descartar</translation>
     </message>
+</context>
+<context>
+    <name>KeyMissingBanner</name>
     <message>
         <source>No API key set.</source>
         <translation>No hay ninguna clave de API.</translation>
@@ -1252,6 +1255,17 @@
         <translation>La IA elige la estructura del nombre</translation>
     </message>
     <message>
+        <source>Templates</source>
+        <translation>Plantillas</translation>
+    </message>
+</context>
+<context>
+    <name>TemplatePreview</name>
+    <message>
+        <source>New Template…</source>
+        <translation>Nueva plantilla…</translation>
+    </message>
+    <message>
         <source>Preview</source>
         <translation>Vista previa</translation>
     </message>
@@ -1266,14 +1280,6 @@
     <message>
         <source>No fixed template — the AI picks the best name structure for each file.</source>
         <translation>Sin plantilla fija: la IA elige la mejor estructura para cada archivo.</translation>
-    </message>
-    <message>
-        <source>Templates</source>
-        <translation>Plantillas</translation>
-    </message>
-    <message>
-        <source>New Template…</source>
-        <translation>Nueva plantilla…</translation>
     </message>
 </context>
 <context>

@@ -180,7 +180,7 @@
     </message>
 </context>
 <context>
-    <name>ContentView</name>
+    <name>NothingRenameableBanner</name>
     <message>
         <source>Nothing here Varlo can rename.</source>
         <translation>Hier is niets wat Varlo kan hernoemen.</translation>
@@ -189,6 +189,9 @@
         <source>Dismiss</source>
         <translation>Sluiten</translation>
     </message>
+</context>
+<context>
+    <name>KeyMissingBanner</name>
     <message>
         <source>No API key set.</source>
         <translation>Geen API-sleutel ingesteld.</translation>
@@ -1252,6 +1255,17 @@
         <translation>De AI kiest de opbouw van de naam</translation>
     </message>
     <message>
+        <source>Templates</source>
+        <translation>Sjablonen</translation>
+    </message>
+</context>
+<context>
+    <name>TemplatePreview</name>
+    <message>
+        <source>New Template…</source>
+        <translation>Nieuw sjabloon…</translation>
+    </message>
+    <message>
         <source>Preview</source>
         <translation>Voorbeeld</translation>
     </message>
@@ -1266,14 +1280,6 @@
     <message>
         <source>No fixed template — the AI picks the best name structure for each file.</source>
         <translation>Geen vast sjabloon: de AI kiest voor elk bestand de beste opbouw.</translation>
-    </message>
-    <message>
-        <source>Templates</source>
-        <translation>Sjablonen</translation>
-    </message>
-    <message>
-        <source>New Template…</source>
-        <translation>Nieuw sjabloon…</translation>
     </message>
 </context>
 <context>

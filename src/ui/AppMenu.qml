@@ -8,11 +8,8 @@ import Varlo
 Rectangle {
     id: bar
 
-    property bool canCheckForUpdates: false
+    required property var contentView
     property bool isShown: false
-    signal updatesRequested
-    signal settingsRequested
-    signal undoRequested
     function toggle() {
         if (isShown) {
             menu.close();
@@ -83,13 +80,13 @@ Rectangle {
 
             MenuEntry {
                 text: qsTr("Check for Updates…")
-                enabled: bar.canCheckForUpdates
-                onTriggered: bar.updatesRequested()
+                enabled: bar.contentView.updater !== null && bar.contentView.updater.canCheckForUpdates
+                onTriggered: bar.contentView.updater.checkForUpdates()
             }
             Line { }
-            MenuEntry { text: qsTr("Settings…"); keys: "Ctrl+,"; onTriggered: bar.settingsRequested() }
+            MenuEntry { text: qsTr("Settings…"); keys: "Ctrl+,"; onTriggered: bar.contentView.uiState.showingSettings = true }
             Line { }
-            MenuEntry { text: qsTr("Undo"); keys: "Ctrl+Z"; onTriggered: bar.undoRequested() }
+            MenuEntry { text: qsTr("Undo"); keys: "Ctrl+Z"; onTriggered: bar.contentView.undo(bar.contentView.focusBeforeMenu) }
         }
     }
 }

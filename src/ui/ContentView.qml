@@ -27,6 +27,7 @@ Window {
     readonly property bool hasNotice: batch.isNothingRenameable || isKeyMissing || isWatching
     readonly property bool isKeyMissing: batch.isKeyMissing && !settings.provider.hasKey
     property bool isDropTargeted: false
+    property bool isOpening: false ///< with files, which will be there at once: until then it does not offer to add some
 
     title: "Varlo"
     width: 1080
@@ -43,8 +44,8 @@ Window {
         enabled: !window.hasSheet
         context: Qt.WindowShortcut
     }
-    Command { sequence: "Ctrl+O"; onActivated: sheets.chooseFiles() }
-    Command { sequence: "Ctrl+Shift+O"; onActivated: sheets.chooseFolder() }
+    Command { sequence: "Ctrl+O"; onActivated: window.chooseFiles() }
+    Command { sequence: "Ctrl+Shift+O"; onActivated: window.chooseFolder() }
     Command { sequences: ["Ctrl+Return", "Ctrl+Enter"]; onActivated: window.batch.suggest() }
     Command { sequences: ["Ctrl+Shift+Return", "Ctrl+Shift+Enter"]; onActivated: sheets.renameEverything() }
     Command { sequences: ["Ctrl+H", "Ctrl+Y"]; onActivated: window.uiState.showingHistory = true }
@@ -66,7 +67,8 @@ Window {
     property Item focusBeforeMenu: null
     function toggleMenu() {
         focusBeforeMenu = activeFocusItem;
-        menu.active = true;
+        if (!menu.bar)
+            menu.setSource("AppMenu.qml", { contentView: window });
         menu.bar.toggle();
     }
     /// Takes back what was typed in the field that has the keyboard, else the latest rename that stands.
@@ -76,6 +78,8 @@ Window {
         else if (!hasSheet || uiState.showingHistory)
             history.revertLatest();
     }
+    function chooseFiles() { sheets.chooseFiles(); }
+    function chooseFolder() { sheets.chooseFolder(); }
     function showTemplates() {
         settings.preferences.settingsSelectedTab = "templates";
         uiState.showingSettings = true;
@@ -96,6 +100,11 @@ Window {
             regions[at].nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason);
     }
 
+    Timer {
+        interval: 300 // of disks that sleep
+        running: window.isOpening
+        onTriggered: window.isOpening = false
+    }
     RootView {
         id: root
         anchors.fill: parent
@@ -111,16 +120,9 @@ Window {
 
         Loader {
             id: menu
-            readonly property AppMenu bar: item as AppMenu
-            active: false
+            readonly property var bar: item ///< an AppMenu
             visible: bar !== null && bar.isShown
             Layout.fillWidth: true
-            sourceComponent: AppMenu {
-                canCheckForUpdates: window.updater !== null && window.updater.canCheckForUpdates
-                onUpdatesRequested: window.updater.checkForUpdates()
-                onSettingsRequested: window.uiState.showingSettings = true
-                onUndoRequested: window.undo(window.focusBeforeMenu)
-            }
         }
         TopBar {
             id: top
@@ -149,59 +151,15 @@ Window {
             visible: window.hasNotice
 
             // Not there before they are needed: a hidden layout whose words change language goes in circles.
-            component OnDemand: Loader {
-                visible: active
+            component Notice: LateLoader {
+                file: ""
+                given: ({ contentView: window })
+                visible: item !== null
                 Layout.fillWidth: true
             }
-            OnDemand {
-                id: banner
-                active: window.batch.isNothingRenameable
-                sourceComponent: Banner {
-                    iconName: "folder-question"
-                    title: qsTr("Nothing here Varlo can rename.")
-                    below: SupportedFormatsLine {
-                        Layout.topMargin: -5 // the link is higher than a line of words
-                        Layout.bottomMargin: -5
-                        count: window.uiState.supportedCount
-                        ink: "#5E4A22"
-                        linkInk: Theme.warn
-                        onViewAllRequested: window.uiState.showingFormats = true
-                    }
-                    buttons: SecondaryButton {
-                        isSmall: true
-                        ground: Theme.warnTint
-                        text: qsTr("Dismiss")
-                        onClicked: window.batch.dismissDropFeedback()
-                    }
-                }
-            }
-            OnDemand {
-                id: keyBanner
-                active: window.isKeyMissing
-                sourceComponent: Banner {
-                    iconName: "key"
-                    title: qsTr("No API key set.")
-                    below: Label {
-                        text: qsTr("Paste your own API key from your chosen provider.")
-                        size: 13
-                        color: "#5E4A22"
-                    }
-                    buttons: SecondaryButton {
-                        isSmall: true
-                        ground: Theme.warnTint
-                        text: qsTr("Use your own provider")
-                        onClicked: window.uiState.showingProvider = true
-                    }
-                }
-            }
-            WatcherStrip {
-                id: strip
-                visible: window.isWatching
-                Layout.fillWidth: true
-                folderName: window.watchedFolder?.folderName ?? ""
-                isPaused: window.watcher?.isPaused ?? false
-                onToggled: window.watcher.isPaused = !window.watcher.isPaused
-            }
+            Notice { file: "NothingRenameableBanner.qml"; isWanted: window.batch.isNothingRenameable }
+            Notice { file: "KeyMissingBanner.qml"; isWanted: window.isKeyMissing }
+            Notice { file: "WatcherStrip.qml"; isWanted: window.isWatching }
             Item { Layout.preferredHeight: 0 }
         }
 
@@ -215,52 +173,49 @@ Window {
             color: window.isDropTargeted && window.isEmpty ? "#EDF5F7" : Theme.surface
             border { width: 1; color: Theme.line }
 
-            Loader {
-                id: content
-                readonly property var list: item && !window.isEmpty ? item : null
+            FocusScope { // for one or the other takes the keyboard only where this has it
                 anchors { fill: parent; margins: 1 }
                 focus: true
-                sourceComponent: window.isEmpty ? emptyComponent : listComponent
-            }
-            Component {
-                id: emptyComponent
-                DropZone {
-                    focus: true
-                    isTargeted: window.isDropTargeted
-                    supportedCount: window.uiState.supportedCount
-                    onAddFilesRequested: sheets.chooseFiles()
-                    onSelectFolderRequested: sheets.chooseFolder()
-                    onViewAllRequested: window.uiState.showingFormats = true
+
+                LateLoader {
+                    isWanted: window.isEmpty && !window.isOpening
+                    file: "DropZone.qml"
+                    given: ({ contentView: window })
+                    anchors.fill: parent
+                    focus: isWanted
                 }
-            }
-            Component {
-                id: listComponent
-                FileList {
-                    id: fileList
-                    focus: true
-                    batch: window.batch
-                    statusLabels: window.uiState.statusLabels
-                    isNarrow: window.isNarrow
-                    onQuickLookRequested: row => {
-                        if (window.quickLook)
-                            window.quickLook.open(row, Screen.devicePixelRatio);
-                    }
-                    Connections { // the keyboard goes on where the look ended
-                        id: looking
-                        property int latestRow: 0
-                        target: window.quickLook
-                        function onRowChanged() { looking.latestRow = window.quickLook.row; }
-                        function onIsOpenChanged() {
-                            if (!window.quickLook.isOpen && looking.latestRow < fileList.batch.count)
-                                fileList.goTo(looking.latestRow, false);
+                Loader {
+                    id: content
+                    readonly property var list: item
+                    active: !window.isEmpty
+                    anchors.fill: parent
+                    focus: active
+                    sourceComponent: FileList {
+                        id: fileList
+                        focus: true
+                        batch: window.batch
+                        statusLabels: window.uiState.statusLabels
+                        isNarrow: window.isNarrow
+                        onQuickLookRequested: row => {
+                            if (window.quickLook)
+                                window.quickLook.open(row, Screen.devicePixelRatio);
+                        }
+                        Connections { // the keyboard goes on where the look ended
+                            id: looking
+                            property int latestRow: 0
+                            target: window.quickLook
+                            function onRowChanged() { looking.latestRow = window.quickLook.row; }
+                            function onIsOpenChanged() {
+                                if (!window.quickLook.isOpen && looking.latestRow < fileList.batch.count)
+                                    fileList.goTo(looking.latestRow, false);
+                            }
                         }
                     }
                 }
             }
             Loader {
                 anchors { fill: parent; margins: 1 }
-                active: window.isDropTargeted && !window.isEmpty
-                sourceComponent: DropHighlight { }
+                source: window.isDropTargeted && !window.isEmpty ? "DropHighlight.qml" : ""
             }
         }
 

@@ -7,12 +7,10 @@ import Varlo
 FocusScope {
     id: zone
 
-    property bool isTargeted: false
-    property int supportedCount: 35
-    signal addFilesRequested
-    signal selectFolderRequested
-    signal viewAllRequested
+    required property var contentView
+    readonly property bool isTargeted: contentView.isDropTargeted
 
+    focus: true
     Accessible.role: Accessible.Grouping
     Accessible.name: title.text + ". " + line.text
 
@@ -56,20 +54,20 @@ FocusScope {
                 focus: true
                 text: qsTr("Add Files…")
                 iconName: "plus"
-                onClicked: zone.addFilesRequested()
+                onClicked: zone.contentView.chooseFiles()
             }
             SecondaryButton {
                 id: select
                 text: qsTr("Select Folder…")
                 iconName: "folder"
-                onClicked: zone.selectFolderRequested()
+                onClicked: zone.contentView.chooseFolder()
             }
         }
         Item { width: 1; height: 20 }
         SupportedFormatsLine {
             anchors.horizontalCenter: parent.horizontalCenter
-            count: zone.supportedCount
-            onViewAllRequested: zone.viewAllRequested()
+            count: zone.contentView.uiState.supportedCount
+            onViewAllRequested: zone.contentView.uiState.showingFormats = true
         }
     }
 }

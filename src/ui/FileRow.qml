@@ -158,7 +158,7 @@ FocusScope {
         focus: true
         x: row.isNarrow ? 66 : 66 + row.namesWidth + 42
         y: row.isNarrow ? Theme.text(58) : (row.height - height) / 2
-        width: row.isNarrow ? row.width - 66 - 14 - 12 - rename.width : row.fieldRoom - row.namesWidth
+        width: row.isNarrow ? row.width - 66 - 14 - 12 - row.actionWidth : row.fieldRoom - row.namesWidth
         sourceComponent: NameField {
             focus: true
             name: row.suggestedName
@@ -179,16 +179,17 @@ FocusScope {
         x: row.isNarrow ? row.width - 14 - width : row.width - 14 - row.actionWidth - 12 - row.statusWidth
         y: row.isNarrow && row.showsField ? Theme.text(9) : (row.height - height) / 2
     }
-    SecondaryButton {
-        id: rename
-        isSmall: true
-        visible: row.hasNameField
-        enabled: row.canRename
-        text: qsTr("Rename")
-        description: row.fileName + " → " + row.suggestedName + row.extension
-        x: row.width - 14 - width
+    Loader {
+        active: row.hasNameField
+        x: row.width - 14 - row.actionWidth
         y: row.isNarrow ? Theme.text(60) : (row.height - height) / 2
-        onClicked: row.renameRequested()
+        sourceComponent: SecondaryButton {
+            isSmall: true
+            enabled: row.canRename
+            text: qsTr("Rename")
+            description: row.fileName + " → " + row.suggestedName + row.extension
+            onClicked: row.renameRequested()
+        }
     }
 
     Rectangle {

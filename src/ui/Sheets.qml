@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick
+import QtQuick.Templates as T
 import Varlo
 
 /// What opens over the main window, each made when it is first asked for.
@@ -19,13 +20,19 @@ Item {
     }
     function confirmTemplateDeletion(id: string) {
         deletion.templateId = id;
-        deletion.active = true;
+        deletion.ask({ title: qsTr("Delete Template…"), confirmText: qsTr("Delete") });
     }
 
     /// Asks first where the history could not hold it all.
     function renameEverything() {
         if (contentView.batch.forgottenCount > 0)
-            forgetting.active = true;
+            forgetting.ask({
+                title: qsTr("Rename All"),
+                iconName: "history",
+                message: qsTr("The history keeps the newest %1 renames, so the first %2 of these cannot be taken back later.")
+                    .arg(contentView.batch.keptCount).arg(contentView.batch.forgottenCount),
+                confirmText: qsTr("Rename All")
+            });
         else
             contentView.batch.renameEverything();
     }
@@ -36,7 +43,7 @@ Item {
         property var given: ({}) ///< its properties
         property bool isWanted: false
         readonly property bool isShown: sheet !== null && sheet.visible
-        readonly property Sheet sheet: item as Sheet
+        readonly property T.Popup sheet: item as T.Popup
         signal dismissed
         active: false
         onIsWantedChanged: {
@@ -119,40 +126,33 @@ Item {
         file: "UpdateSheet.qml"
         given: ({ updater: sheets.contentView.updater })
     }
-    Loader {
-        id: deletion
-        property string templateId
+    component Question: Loader {
+        readonly property T.Popup sheet: item as T.Popup
         readonly property bool isShown: sheet !== null && sheet.visible
-        readonly property Sheet sheet: item as Sheet
-        active: false
-        onLoaded: sheet.open()
-        sourceComponent: ConfirmDialog {
-            title: qsTr("Delete Template…")
-            confirmText: qsTr("Delete")
-            onConfirmed: {
-                sheets.contentView.templates.remove(deletion.templateId);
-                const editor = sheets.contentView.settings.templateEditor;
-                if (editor.templateId === deletion.templateId)
-                    editor.close();
-            }
-            onClosed: deletion.active = false
+        function ask(properties: var) {
+            setSource("ConfirmDialog.qml", properties);
+            sheet.open();
         }
     }
-    Loader {
-        id: forgetting
-        readonly property bool isShown: sheet !== null && sheet.visible
-        readonly property Sheet sheet: item as Sheet
-        active: false
-        onLoaded: sheet.open()
-        sourceComponent: ConfirmDialog {
-            title: qsTr("Rename All")
-            iconName: "history"
-            message: qsTr("The history keeps the newest %1 renames, so the first %2 of these cannot be taken back later.")
-                .arg(sheets.contentView.batch.keptCount).arg(sheets.contentView.batch.forgottenCount)
-            confirmText: qsTr("Rename All")
-            onConfirmed: sheets.contentView.batch.renameEverything()
-            onClosed: forgetting.active = false
+    Question {
+        id: deletion
+        property string templateId
+    }
+    Connections {
+        target: deletion.item
+        function onConfirmed() {
+            sheets.contentView.templates.remove(deletion.templateId);
+            const editor = sheets.contentView.settings.templateEditor;
+            if (editor.templateId === deletion.templateId)
+                editor.close();
         }
+        function onClosed() { deletion.source = ""; }
+    }
+    Question { id: forgetting }
+    Connections {
+        target: forgetting.item
+        function onConfirmed() { sheets.contentView.batch.renameEverything(); }
+        function onClosed() { forgetting.source = ""; }
     }
     Connections {
         target: sheets.contentView.folderPanel

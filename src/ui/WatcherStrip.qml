@@ -8,9 +8,9 @@ import Varlo
 Rectangle {
     id: strip
 
-    required property string folderName
-    required property bool isPaused
-    signal toggled
+    required property var contentView
+    readonly property string folderName: contentView.watchedFolder?.folderName ?? ""
+    readonly property bool isPaused: contentView.watcher.isPaused
 
     implicitHeight: Theme.text(40)
     radius: 11
@@ -59,7 +59,7 @@ Rectangle {
             isOutlined: false
             ground: Theme.fill
             text: strip.isPaused ? qsTr("Resume") : qsTr("Pause")
-            onClicked: strip.toggled()
+            onClicked: strip.contentView.watcher.isPaused = !strip.isPaused
         }
     }
 }

@@ -15,12 +15,12 @@ T.AbstractButton {
     property bool bordered: true
     property string chevron: "selector"
     property real popoverWidth: 208
-    property Component popoverFooter: null ///< below the rows
+    property string popoverFooter ///< below the rows: the address of a component that has a `picker`, this one
     property string caption ///< above the rows
     property var editHelpFor: option => ""
     property string editDescription ///< read aloud with each pencil
     property string highlightedId ///< of the row under the pointer or the keyboard; "" for none
-    readonly property Popover popover: loader.item as Popover
+    readonly property T.Popup popover: loader.item as T.Popup
     readonly property bool isPresented: popover !== null && popover.opened
     signal chosen(string id)
     signal editRequested(string id)
@@ -39,7 +39,8 @@ T.AbstractButton {
     hoverEnabled: true
     focusPolicy: Qt.StrongFocus
     onClicked: {
-        loader.active = true;
+        if (!popover)
+            loader.setSource("OptionPopover.qml", { picker: picker }); // not even read before
         popover.open();
     }
     Keys.onReturnPressed: clicked()
@@ -104,62 +105,5 @@ T.AbstractButton {
         }
     }
 
-    Loader {
-        id: loader
-        active: false
-        sourceComponent: Popover {
-            parent: picker
-            implicitWidth: picker.popoverWidth
-            onOpened: rows.focusChosen()
-            onClosed: picker.highlightedId = ""
-            contentItem: Column {
-                id: rows
-                function focusChosen() {
-                    for (let i = 0; i < choices.count; ++i) {
-                        if (choices.itemAt(i).isSelected)
-                            choices.itemAt(i).forceActiveFocus(Qt.PopupFocusReason);
-                    }
-                }
-                Label {
-                    visible: picker.caption !== ""
-                    leftPadding: 10
-                    topPadding: 8
-                    bottomPadding: 6
-                    text: picker.caption
-                    size: 12
-                    font.weight: Font.DemiBold
-                    color: Theme.ink3
-                }
-                Repeater {
-                    id: choices
-                    model: picker.options
-                    PopoverPickerRow {
-                        required property var modelData
-                        readonly property bool isHighlighted: hovered || activeFocus
-                        width: parent.width
-                        isSelected: modelData.id === picker.selection
-                        name: modelData.name
-                        detail: modelData.detail ?? ""
-                        isApart: modelData.isApart ?? false
-                        editHelp: picker.editHelpFor(modelData)
-                        editDescription: picker.editDescription
-                        onIsHighlightedChanged: if (isHighlighted) picker.highlightedId = modelData.id
-                        onClicked: {
-                            picker.close();
-                            picker.chosen(modelData.id);
-                        }
-                        onEditRequested: {
-                            picker.close();
-                            picker.editRequested(modelData.id);
-                        }
-                    }
-                }
-                Loader {
-                    width: parent.width
-                    active: picker.popoverFooter !== null
-                    sourceComponent: picker.popoverFooter
-                }
-            }
-        }
-    }
+    Loader { id: loader }
 }
