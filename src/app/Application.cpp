@@ -8,12 +8,14 @@
 #include "platform/linux/FileSecretStore.h"
 #include "platform/linux/SecretServiceStore.h"
 #include "ui/IconProvider.h"
+#include <chrono>
 #include <QDBusConnection>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDesktopServices>
 #include <QGuiApplication>
 #include <QQuickWindow>
+#include <QTimer>
 #include <QtQml/qqmlextensionplugin.h>
 
 Q_IMPORT_QML_PLUGIN(VarloPlugin)
@@ -21,6 +23,7 @@ Q_IMPORT_QML_PLUGIN(VarloPlugin)
 namespace Varlo {
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 static QString environmentValue(const Environment &environment, const char *name)
 {
@@ -143,7 +146,8 @@ QQuickWindow *Application::show()
         { u"watchedFolder"_s, QVariant::fromValue(&m_watchedFolder) },
         { u"quickLook"_s, QVariant::fromValue(&m_quickLook) },
         { u"folderPanel"_s, QVariant::fromValue(&m_folderPanel) }, { u"settings"_s, QVariant::fromValue(&m_settings) },
-        { u"updater"_s, QVariant::fromValue(&m_updater) }, { u"uiState"_s, QVariant::fromValue(&m_uiState) } });
+        { u"updater"_s, QVariant::fromValue(&m_updater) }, { u"uiState"_s, QVariant::fromValue(&m_uiState) },
+        { u"isOpening"_s, m_batch->isAdmitting() } });
     m_engine.load(QUrl(u"qrc:/qt/qml/Varlo/ContentView.qml"_s));
     if (m_engine.rootObjects().isEmpty())
         return nullptr;
@@ -153,12 +157,15 @@ QQuickWindow *Application::show()
     const auto *keys = new WindowKeys(window);
     QObject::connect(keys, &WindowKeys::menuRequested, &m_uiState, &AppUIState::menuRequested);
     QObject::connect(keys, &WindowKeys::undoRequested, &m_uiState, &AppUIState::undoRequested);
-    // After the first frame, which would wait for neither.
+    // After the first frames, which would wait for neither.
     QObject::connect(
         window, &QQuickWindow::frameSwapped, window,
-        [this] {
-            m_preferenceStore.observe(); // the terminal renames and changes settings too
-            m_reader.warmUp(); // the first file then does not wait for the readers' process
+        [this, window] {
+            constexpr auto untilRowsAreShown = 100ms;
+            QTimer::singleShot(untilRowsAreShown, window, [this] {
+                m_preferenceStore.observe(); // the terminal renames and changes settings too
+                m_reader.warmUp(); // the first file then does not wait for the readers' process
+            });
         },
         Qt::SingleShotConnection);
     QObject::connect(&m_language, &InterfaceLanguage::changed, window, [this] { retranslate(); });

@@ -6,6 +6,7 @@
 #include "ui/chooseFonts.h"
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QQuickWindow>
@@ -72,9 +73,9 @@ static void serve(Application &varlo, SingleInstance &instance)
 {
     QObject::connect(
         &instance, &SingleInstance::requested, &instance, [&varlo](const SingleInstance::Request &request) {
-            varlo.activate(request.platformData);
             if (!request.files.empty())
                 varlo.batch().addFiles(request.files, true);
+            varlo.activate(request.platformData);
         });
     QObject::connect(&instance, &SingleInstance::actionRequested, &instance,
         [&varlo](const QString &name, const QVariantMap &platformData) {
@@ -88,7 +89,7 @@ static void serve(Application &varlo, SingleInstance &instance)
     varlo.followDesktop(instance.bus());
 }
 
-int main(int argumentCount, char **arguments)
+static int run(int argumentCount, char **arguments)
 {
 #ifndef __SANITIZE_ADDRESS__ // whose leak check has to look into the process
     ::prctl(PR_SET_DUMPABLE, 0); // the key passes through this process's memory
@@ -115,6 +116,8 @@ int main(int argumentCount, char **arguments)
     QGuiApplication::setPalette(QPalette(QColor(0xF5, 0xF3, 0xEF))); // light, whatever the desktop's is
     Application varlo(processEnvironment());
     serve(varlo, instance);
+    if (!start.files.empty())
+        varlo.batch().addFiles(std::move(start.files), true); // looked for while the window is made
     if (start.isForBus) {
         constexpr auto patience = 30s; // the bus calls as soon as the name is there
         QTimer::singleShot(patience, &application, [&varlo] {
@@ -125,7 +128,15 @@ int main(int argumentCount, char **arguments)
         return 1;
     }
     quitAtRows(varlo);
-    if (!start.files.empty())
-        varlo.batch().addFiles(std::move(start.files), true);
     return QGuiApplication::exec();
+}
+
+int main(int argumentCount, char **arguments)
+{
+    const int status = run(argumentCount, arguments);
+#ifdef __SANITIZE_ADDRESS__ // which looks for leaks after main()
+    return status;
+#else
+    std::_Exit(status); // else Qt's libraries take their tables apart, type by type
+#endif
 }

@@ -124,6 +124,8 @@ public:
     /// the other. When nothing was admitted and `reportEmpty` is set, dropFeedback() says so at the end. clear() ends
     /// it.
     QCoro::Task<void> addFiles(std::vector<std::filesystem::path> paths, bool reportEmpty);
+    /// addFiles() has not come to its end.
+    [[nodiscard]] bool isAdmitting() const { return !m_admissionTurns.isIdle(); }
     /// Empties the batch. Nothing on disk and nothing in the rename log changes.
     Q_INVOKABLE void clear();
     /// Takes every pending file through its reading and a suggestion, five at a time, until none is pending. Does
