@@ -60,7 +60,9 @@ def main():
     with tempfile.TemporaryDirectory(prefix="bench-window.") as root:
         base = {name: value for name, value in os.environ.items() if not name.startswith(("VARLO_", "DBUS_"))}
         base |= {"QT_QPA_PLATFORM": "offscreen", "QT_QUICK_BACKEND": "software", "HOME": root, "XDG_CONFIG_HOME": root,
-                 "XDG_DATA_HOME": root, "XDG_STATE_HOME": root, "XDG_CACHE_HOME": os.path.join(root, "cache")}
+                 "XDG_DATA_HOME": root, "XDG_STATE_HOME": root, "XDG_CACHE_HOME": os.path.join(root, "cache"),
+                 "XDG_RUNTIME_DIR": os.path.join(root, "run")}
+        os.mkdir(base["XDG_RUNTIME_DIR"], 0o700)
         os.mkdir(os.path.join(root, "varlo"))
         with open(os.path.join(root, "varlo", "preferences.json"), "w", encoding="utf-8") as preferences:
             preferences.write('{"hasCompletedOnboarding": true}')  # else the introduction is what is measured
