@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "extraction/office/MappedFile.h"
 #include "extraction/office/ZipFile.h"
+#include "platform/linux/MappedFile.h"
 #include <map>
 #include <QStringList>
 

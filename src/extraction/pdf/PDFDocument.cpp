@@ -9,17 +9,17 @@ namespace Varlo {
 
 std::optional<PDFDocument> PDFDocument::open(const FileDescriptor &file)
 {
-    auto mapped = MappedFile::map(file);
-    if (!mapped || mapped->bytes().size() > std::numeric_limits<int>::max())
+    MappedFile mapped(file);
+    const QByteArrayView bytes = mapped.bytes();
+    if (bytes.isEmpty() || bytes.size() > std::numeric_limits<int>::max())
         return std::nullopt;
     // By default it prints a line for each wrong byte.
     poppler::set_debug_error_function([](const std::string &, void *) {}, nullptr);
-    const std::span<const char> bytes = mapped->bytes();
     std::unique_ptr<poppler::document> document(
         poppler::document::load_from_raw_data(bytes.data(), static_cast<int>(bytes.size())));
     if (!document || document->is_locked())
         return std::nullopt;
-    return PDFDocument(std::move(*mapped), std::move(document));
+    return PDFDocument(std::move(mapped), std::move(document));
 }
 
 PDFDocument::PDFDocument(MappedFile file, std::unique_ptr<poppler::document> document)

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "extraction/pdf/MappedFile.h"
+#include "platform/linux/MappedFile.h"
 #include <memory>
 #include <optional>
 #include <poppler-document.h>
