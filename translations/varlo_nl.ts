@@ -76,6 +76,14 @@
     </message>
 </context>
 <context>
+    <name>BaseButton</name>
+    <message>
+        <source>Not available now</source>
+        <extracomment>Read aloud in place of what a button does</extracomment>
+        <translation>Nu niet beschikbaar</translation>
+    </message>
+</context>
+<context>
     <name>BottomBar</name>
     <message>
         <source>Add Files…</source>
@@ -698,6 +706,14 @@
     <message>
         <source>Filename language is set in the main window.</source>
         <translation>De taal van bestandsnamen kies je in het hoofdvenster.</translation>
+    </message>
+</context>
+<context>
+    <name>MenuEntry</name>
+    <message>
+        <source>Not available now</source>
+        <extracomment>Read aloud in place of an entry&apos;s keys</extracomment>
+        <translation>Nu niet beschikbaar</translation>
     </message>
 </context>
 <context>

@@ -40,6 +40,11 @@ Rectangle {
         color: Theme.accentTint
         Label { id: word; anchors.centerIn: parent; text: "Varlo"; size: 13; color: Theme.accentInk }
 
+        Binding {
+            target: menu.contentItem.parent.Accessible // of the popup's own item, which a menu's title does not reach
+            property: "name"
+            value: word.text
+        }
         T.Menu {
             id: menu
 
@@ -64,8 +69,6 @@ Rectangle {
                 model: menu.contentModel
                 currentIndex: menu.currentIndex
                 interactive: false
-                Accessible.role: Accessible.PopupMenu
-                Accessible.name: word.text
             }
             background: Shadow {
                 radius: 14

@@ -21,8 +21,6 @@ Sheet {
     contentItem: ColumnLayout {
         id: content
         spacing: 0
-        Accessible.role: Accessible.Dialog
-        Accessible.name: dialog.title
         RowLayout {
             Layout.fillWidth: true
             Layout.margins: 24

@@ -16,8 +16,6 @@ Sheet {
 
     contentItem: ColumnLayout {
         spacing: 0
-        Accessible.role: Accessible.Dialog
-        Accessible.name: sheet.title
         SheetHeader {
             id: header
             Layout.fillWidth: true

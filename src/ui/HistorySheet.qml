@@ -18,8 +18,6 @@ Sheet {
 
     contentItem: ColumnLayout {
         spacing: 0
-        Accessible.role: Accessible.Dialog
-        Accessible.name: sheet.title
 
         Keys.onPressed: event => {
             const inSearch = search.activeFocus;

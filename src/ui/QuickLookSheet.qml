@@ -20,9 +20,8 @@ Sheet {
         id: content
         focus: true
         spacing: 0
-        Accessible.role: Accessible.Dialog
-        Accessible.name: sheet.title
-        Accessible.description: sheet.look.newName
+        Accessible.role: Accessible.Grouping
+        Accessible.name: sheet.look.newName
 
         Keys.onSpacePressed: sheet.close()
         Keys.onUpPressed: sheet.look.step(-1)

@@ -18,8 +18,6 @@ Sheet {
     contentItem: ColumnLayout {
         id: content
         spacing: 0
-        Accessible.role: Accessible.Dialog
-        Accessible.name: sheet.title
         Label {
             Layout.fillWidth: true
             Layout.margins: 24

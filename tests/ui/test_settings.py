@@ -202,7 +202,7 @@ class SettingsTest(WindowTest):
             self.keys(f"ctrl+{number}")
             self.wait_for_tab(tab)
             self.wait_for_focus(tab)
-            self.check_names_of_controls()
+            self.check_names()
         self.keys("ctrl+Tab")
         self.wait_for_tab("Language")
         self.keys("ctrl+shift+Tab")
@@ -343,7 +343,7 @@ class KeyTest(WindowTest):
         self.click(self.find("Use your own provider", "push button"))
         self.find("Use your own provider", "dialog")
         self.wait_for_secret_field("API key")
-        self.check_names_of_controls()
+        self.check_names()
         self.keys("space", "space")
         self.click(self.find("Save", "push button"))  # nothing to save
         self.wait_for_secret_field("API key")
@@ -437,7 +437,7 @@ class OnboardingTest(WindowTest):
         self.start(self.write("a.txt"))
         self.focus()
         self.find("Welcome to Varlo")
-        self.check_names_of_controls()
+        self.check_names()
         self.assertEqual([node.get_name() for node in below(self.frame) if node.get_role_name() == "push button"],
                          ["Get Started"])
         self.keys("ctrl+comma")  # there is nothing yet that could be set

@@ -11,7 +11,7 @@ import unittest
 
 from gi.repository import Gio, GLib
 
-from window_driver import PATIENCE, VARLO, WINDOW, WindowTest, below, main, until
+from window_driver import PATIENCE, VARLO, WINDOW, WindowTest, below, is_available, main, until
 
 BUS = ["--session", "--dest", "com.varlo.Varlo", "--object-path", "/com/varlo/Varlo", "--method"]
 UGLY = [b"with space & more.txt", b"two\nlines.txt", b"percent%41.txt", b"latin-\xe9t\xe9.txt", b"-rf.txt", "kaçé.txt".encode()]
@@ -63,7 +63,9 @@ class ShellTest(WindowTest):
                 self.press("Rename")
                 self.wait_for_names("Offered.txt")
                 self.keys(key)
-                self.entry("Check for Updates…")
+                self.assertFalse(is_available(self.entry("Check for Updates…")))
+                self.assertTrue(is_available(self.entry("Settings…")))
+                self.check_names()
                 self.keys("Down", "Return")  # from "Settings…", the first that can be chosen
                 self.wait_for_names("a.txt")
                 self.wait_for_none("Menu bar")

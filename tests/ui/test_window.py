@@ -11,7 +11,7 @@ import os
 import re
 import subprocess
 
-from window_driver import DRAG_SOURCE, PATIENCE, WINDOW, WindowTest, below, main, until
+from window_driver import DRAG_SOURCE, PATIENCE, WINDOW, WindowTest, below, is_available, main, until
 
 
 class MainWindowTest(WindowTest):
@@ -133,13 +133,19 @@ class MainWindowTest(WindowTest):
     def test_assistive_technology_can_do_everything(self):
         self.start(self.write("one.txt"), self.write("two.txt"), server=["--reply", "Offered"])
         self.wait_for_row("two.txt", "Pending")
-        self.check_names_of_controls()
+        self.check_names()
+        self.assertFalse(is_available(self.find("Rename All", "push button")))
+        self.assertTrue(is_available(self.find("Suggest Names", "push button")))
         self.find("Filename language").get_action_iface().do_action(0)
+        self.find("Filename language", "dialog")
+        self.check_names()
         self.find("Nederlands", "radio button").get_action_iface().do_action(0)
         until(lambda: self.find("Filename language").get_description() == "Nederlands", "the choice")
         self.press("Suggest Names")
         self.wait_for_row("two.txt", "Suggested")
-        self.check_names_of_controls()
+        self.check_names()
+        self.assertTrue(is_available(self.find("Rename All", "push button")))
+        self.assertFalse(is_available(self.find("Suggest Names", "push button")))
         until(lambda: [node for node in below(self.frame) if re.fullmatch(r"2/2, \d+ bytes, \d+\.\ds", node.get_name())],
               "the statistics")
         self.press("Rename")
@@ -148,7 +154,7 @@ class MainWindowTest(WindowTest):
         self.wait_for_names("Offered.txt", "Offered 2.txt")
         self.press("History")
         self.find("Search history")
-        self.check_names_of_controls()
+        self.check_names()
         self.press("Revert")
         self.wait_for_names("Offered.txt", "two.txt")
         self.press("Clear History…")

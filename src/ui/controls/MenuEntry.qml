@@ -17,7 +17,8 @@ T.MenuItem {
     hoverEnabled: true
     Accessible.role: Accessible.MenuItem
     Accessible.name: text
-    Accessible.description: keys
+    //: Read aloud in place of an entry's keys
+    Accessible.description: enabled ? keys : qsTr("Not available now")
     Accessible.onPressAction: if (enabled) click()
 
     contentItem: Item {

@@ -10,6 +10,7 @@ Popover {
     required property var picker ///< an OptionPicker
 
     parent: popover.picker
+    title: popover.picker.caption
     implicitWidth: popover.picker.popoverWidth
     onOpened: rows.focusChosen()
     onClosed: popover.picker.highlightedId = ""
@@ -27,6 +28,7 @@ Popover {
             topPadding: 8
             bottomPadding: 6
             text: popover.picker.caption
+            Accessible.ignored: true
             size: 12
             font.weight: Font.DemiBold
             color: Theme.ink3

@@ -5,7 +5,7 @@ import QtQuick.Templates as T
 import Varlo
 
 /// A small white sheet below the control that opened it. Moves rather than leave the window.
-T.Popup {
+T.Dialog { // of all popups the one whose title assistive technology is told
     id: popover
 
     y: parent ? parent.height + 6 : 0

@@ -6,10 +6,9 @@ import QtQuick.Window
 import Varlo
 
 /// A white sheet over the window, never larger than the window less 32. Esc closes it, and the focus goes back.
-T.Popup {
+T.Dialog { // of all popups the one whose title assistive technology is told
     id: sheet
 
-    property string title
     property real wishedWidth: 720
     property real wishedHeight: 600
     property bool isSecond: false ///< lies over another sheet

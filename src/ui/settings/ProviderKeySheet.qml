@@ -53,8 +53,6 @@ Sheet {
         id: area
         contentHeight: content.implicitHeight + 48
         showsEnd: outcome.visible
-        Accessible.role: Accessible.Dialog
-        Accessible.name: sheet.title
 
         ColumnLayout {
             id: content

@@ -70,8 +70,6 @@ Sheet {
     }
 
     contentItem: Item {
-        Accessible.role: Accessible.Dialog
-        Accessible.name: sheet.title
 
         Keys.onPressed: event => {
             if (!(event.modifiers & Qt.ControlModifier))

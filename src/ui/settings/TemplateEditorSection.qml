@@ -102,12 +102,11 @@ ColumnLayout {
                     onClicked: addition.open()
                     Popover {
                         id: addition
+                        title: addButton.text
                         implicitWidth: Math.max(190, fields.implicitWidth + 12)
                         onOpened: fields.children[0].forceActiveFocus(Qt.TabFocusReason)
                         contentItem: Column {
                             id: fields
-                            Accessible.role: Accessible.PopupMenu
-                            Accessible.name: addButton.text
                             Repeater {
                                 model: section.editor.missingFields
                                 PopoverAction {
