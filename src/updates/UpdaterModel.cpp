@@ -3,6 +3,7 @@
 #include "updates/UpdaterModel.h"
 
 #include <QPointer>
+#include <utility>
 
 namespace Varlo {
 
@@ -66,7 +67,8 @@ void UpdaterModel::openPage()
 
 void UpdaterModel::dismiss()
 {
-    m_isShown = false;
+    if (!std::exchange(m_isShown, false))
+        return; // a view that closes says so, whatever closed it
     emit changed();
 }
 

@@ -120,6 +120,18 @@ class WindowTest(unittest.TestCase):
         self.window = subprocess.Popen([WINDOW, *files], env=self.environment, stderr=self.stderr)
         self.frame = until(self.find_frame, "the window")
 
+    def start_with_opener(self, *files, **others):
+        """Beside a desktop that only notes down what it is to open; where it does."""
+        opened = self.home / "opened"
+        opened.touch()
+        programs = self.home / "bin"
+        programs.mkdir(exist_ok=True)
+        fake = programs / "xdg-open"
+        fake.write_text(f'#!/bin/sh\necho "$1" >> {opened}\n')
+        fake.chmod(0o755)
+        self.start(*files, environment={"PATH": f"{programs}:/usr/bin:/bin"}, **others)
+        return opened
+
     def terminal(self, *arguments, given=""):
         """Varlo's other program, at the same time, for the same user; what it prints."""
         environment = self.environment | {"QT_QPA_PLATFORM": ""}

@@ -19,7 +19,7 @@ T.MenuItem {
     Accessible.name: text
     //: Read aloud in place of an entry's keys
     Accessible.description: enabled ? keys : qsTr("Not available now")
-    Accessible.onPressAction: if (enabled) click()
+    Accessible.onPressAction: if (enabled) clicked()
 
     contentItem: Item {
         Label {
