@@ -4,7 +4,7 @@ import QtQuick
 import Qt.labs.platform as Desktop
 
 /// The same menu where the desktop shows the menus of all windows in one place. Loaded there alone: elsewhere the
-/// module has nothing to show it with.
+/// module has nothing to show it with. Its entries name no keys: they would be taken from the window's own shortcuts.
 Desktop.MenuBar {
     id: bar
 

@@ -14,6 +14,8 @@ from gi.repository import Gio, GLib
 from window_driver import PATIENCE, VARLO, WINDOW, WindowTest, below, is_available, main, until
 
 BUS = ["--session", "--dest", "com.varlo.Varlo", "--object-path", "/com/varlo/Varlo", "--method"]
+REGISTRAR, REGISTRAR_PATH = "com.canonical.AppMenu.Registrar", "/com/canonical/AppMenu/Registrar"
+MOCK, DBUSMENU = "org.freedesktop.DBus.Mock", "com.canonical.dbusmenu"
 UGLY = [b"with space & more.txt", b"two\nlines.txt", b"percent%41.txt", b"latin-\xe9t\xe9.txt", b"-rf.txt", "kaçé.txt".encode()]
 
 
@@ -78,6 +80,51 @@ class ShellTest(WindowTest):
         self.keys("ctrl+h")
         self.find("Search history")
         self.assertFalse(self.nodes("Undo", "menu item"))
+
+    def start_registrar(self):
+        """Of a desktop that shows the menus of all windows in one place."""
+        registrar = subprocess.Popen(["/usr/bin/python3", "-m", "dbusmock", REGISTRAR, REGISTRAR_PATH, REGISTRAR],
+                                     stdout=subprocess.DEVNULL)
+        self.addCleanup(registrar.wait)
+        self.addCleanup(registrar.kill)
+        until(lambda: self.ask(REGISTRAR, REGISTRAR_PATH, "org.freedesktop.DBus.Peer", "Ping") is not None, "it")
+        self.ask(REGISTRAR, REGISTRAR_PATH, MOCK, "AddMethod", "(sssss)", "", "RegisterWindow", "uo", "", "")
+
+    def ask(self, name, path, interface, method, form="()", *arguments):
+        return Gio.bus_get_sync(Gio.BusType.SESSION).call_sync(
+            name, path, interface, method, GLib.Variant(form, arguments), None, Gio.DBusCallFlags.NONE, -1).unpack()
+
+    def global_menu(self, path):
+        """Its entries that are no separators, by their words."""
+        _, (_, _, menus) = self.ask("com.varlo.Varlo", path, DBUSMENU, "GetLayout", "(iias)", 0, -1, [])
+        return {entry[1]["label"]: entry for entry in menus[0][2] if "label" in entry[1]}
+
+    def test_global_menu_has_the_same_entries(self):
+        self.start_registrar()
+        self.start(self.write("a.txt"), server=["--reply", "Offered"])
+        calls = until(lambda: self.ask(REGISTRAR, REGISTRAR_PATH, MOCK, "GetMethodCalls", "(s)", "RegisterWindow")[0], "a menu")
+        path = calls[-1][1][1]
+        menu = self.global_menu(path)
+        self.assertEqual([(label, entry[1]["enabled"]) for label, entry in menu.items()],
+                         [("Check for Updates…", False), ("Settings…", True), ("Undo", True)])
+
+        def choose(label):
+            self.ask("com.varlo.Varlo", path, DBUSMENU, "Event", "(isvu)", menu[label][0], "clicked", GLib.Variant("i", 0), 0)
+        self.press("Suggest Names")
+        self.press("Rename")
+        self.wait_for_names("Offered.txt")
+        choose("Undo")
+        self.wait_for_names("a.txt")
+        choose("Settings…")
+        self.find("Settings", "dialog")
+        self.focus()
+        self.keys("Escape")
+        self.wait_for_none("Settings", "dialog")
+        self.keys("ctrl+comma")  # which the menu must not take from the window
+        self.find("Settings", "dialog")
+        until(lambda: not self.global_menu(path)["Settings…"][1]["enabled"], "an entry that has nothing to do")
+        self.terminal("config", "set", "uiLanguage", "nl")
+        until(lambda: "Instellingen…" in self.global_menu(path), "the menu in Dutch")
 
     def test_undo_takes_back_typing_and_then_renames(self):
         self.start(self.write("a.txt"), self.write("b.txt"), server=["--reply", "Offered"])
