@@ -58,6 +58,10 @@ QStringView firstCharacters(QStringView text, qsizetype count)
     // A character takes at least one unit, so a text this short needs no search.
     if (text.size() <= count)
         return text;
+    // One more, as an accent there would belong to the last one.
+    const QStringView front = text.first(std::max(count, qsizetype { 0 }) + 1);
+    if (std::all_of(front.begin(), front.end(), standsAlone))
+        return front.chopped(1);
     CharacterBorders borders(text);
     qsizetype end = 0;
     for (qsizetype taken = 0; taken < count; ++taken) {
