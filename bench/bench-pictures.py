@@ -33,7 +33,7 @@ TARGETS = {
     "12.heic": (1.1, 1.2, 150),
     "12.avif": (1.2, 1.2, 150),
 }
-FOR_FURTHER = (".tif", ".webp", ".heic", ".avif")
+FOR_FURTHER = (".tif", ".heic", ".avif")
 
 
 def quiet(*command):

@@ -7,12 +7,11 @@
 
 namespace Varlo {
 
-/// Decodes what is left to a module of its own, since its libraries are large: WebP, TIFF, HEIF and AVIF.
+/// Decodes what is left to a module of its own, since its libraries are large: TIFF, HEIF and AVIF.
 struct PictureDecoder {
     virtual ~PictureDecoder() = default;
-    /// The first picture of the file. It may be shrunk while it is decoded, so long as its longer side keeps
-    /// `longestSide` pixels. Of a damaged file comes what can be decoded. False where that is nothing.
-    [[nodiscard]] virtual bool decode(const FileDescriptor &file, int longestSide, PictureRows &rows) = 0;
+    /// The first picture of the file. Of a damaged file comes what can be decoded. False where that is nothing.
+    [[nodiscard]] virtual bool decode(const FileDescriptor &file, PictureRows &rows) = 0;
 };
 
 } // namespace Varlo

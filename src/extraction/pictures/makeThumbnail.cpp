@@ -7,6 +7,7 @@
 #include "extraction/pictures/decodeJPEG.h"
 #include "extraction/pictures/decodePNG.h"
 #include "extraction/pictures/decodeTGA.h"
+#include "extraction/pictures/decodeWebP.h"
 #include "extraction/pictures/decodeWithQt.h"
 #include "extraction/pictures/PictureKind.h"
 #include "extraction/pictures/readPhotoFacts.h"
@@ -66,17 +67,15 @@ static bool decode(
     case PictureKind::TGA:
         return decodeTGA(file, rows);
     case PictureKind::WebP:
+        return decodeWebP(file, longestSide, rows);
     case PictureKind::TIFF:
     case PictureKind::HEIF:
-        return furtherDecoder && furtherDecoder->decode(file, longestSide, rows);
+        return furtherDecoder && furtherDecoder->decode(file, rows);
     }
     return false;
 }
 
-static bool isForFurtherDecoder(PictureKind kind)
-{
-    return kind == PictureKind::WebP || kind == PictureKind::TIFF || kind == PictureKind::HEIF;
-}
+static bool isForFurtherDecoder(PictureKind kind) { return kind == PictureKind::TIFF || kind == PictureKind::HEIF; }
 
 Result<QImage, ThumbnailError> makeThumbnail(
     const FileDescriptor &file, std::string_view extension, int longestSide, PictureDecoder *furtherDecoder)

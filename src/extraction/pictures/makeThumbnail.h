@@ -17,7 +17,7 @@ enum class ThumbnailError {
 
 /// The first picture of the file: upright, opaque on white, in sRGB, with square pixels, its longer side at most
 /// `longestSide` pixels, never enlarged. In Format_RGB888. What kind of picture it is its content tells; the extension
-/// (in lower case) counts for TGA alone. `furtherDecoder` reads WebP, TIFF, HEIF and AVIF; it may be null.
+/// (in lower case) counts for TGA alone. `furtherDecoder` reads TIFF, HEIF and AVIF; it may be null.
 [[nodiscard]] Result<QImage, ThumbnailError> makeThumbnail(
     const FileDescriptor &file, std::string_view extension, int longestSide, PictureDecoder *furtherDecoder);
 

@@ -29,7 +29,7 @@ struct Unreference {
 template <typename Type> using Object = std::unique_ptr<Type, Unreference>;
 using Image = Object<VipsImage>;
 
-enum class Format { WebP, TIFF, HEIF };
+enum class Format { TIFF, HEIF };
 } // namespace
 
 /// The library describes each of its operations to its type system at the first use, which every worker would do again.
@@ -38,8 +38,8 @@ static void meetOperations()
     static constexpr std::string_view noPicture = "no picture";
     const Object<VipsSource> source(vips_source_new_from_memory(noPicture.data(), noPicture.size()));
     vips_foreign_find_load_source(source.get());
-    for (const char *const name : { "webpload_source", "tiffload_source", "heifload_source", "colourspace", "cast",
-             "flatten", "extract_band", "icc_transform", "copy", "sRGB2scRGB", "scRGB2sRGB", "autorot", "linear" }) {
+    for (const char *const name : { "tiffload_source", "heifload_source", "colourspace", "cast", "flatten",
+             "extract_band", "icc_transform", "copy", "sRGB2scRGB", "scRGB2sRGB", "autorot", "linear" }) {
         if (VipsOperation *const operation = vips_operation_new(name))
             g_object_unref(operation);
     }
@@ -72,8 +72,9 @@ static bool prepareVips()
     vips_vector_set_enabled(FALSE); // its compiler leaves files in the user's folders
     vips_concurrency_set(1);
     vips_cache_set_max(0);
-    // glibc would keep the frames of a decoder that are freed for the next of their size, which never comes.
-    ::mallopt(M_MMAP_THRESHOLD, 256 * 1024);
+    // glibc would keep the frames of a decoder that are freed for the next of their size, which never comes. Small ones
+    // may stay: to get their pages from the kernel takes longer than to fill them.
+    ::mallopt(M_MMAP_THRESHOLD, 4 * 1024 * 1024);
     meetOperations();
     return true;
 }
@@ -88,8 +89,6 @@ static std::optional<Format> formatOf(VipsSource *source)
 {
     const char *const name = vips_foreign_find_load_source(source);
     const std::string_view loader = name ? name : "";
-    if (loader == "VipsForeignLoadWebpSource")
-        return Format::WebP;
     if (loader == "VipsForeignLoadTiffSource")
         return Format::TIFF;
     if (loader == "VipsForeignLoadHeifSource")
@@ -98,21 +97,11 @@ static std::optional<Format> formatOf(VipsSource *source)
 }
 
 /// Only the header is read yet; rows are decoded as they are asked for.
-static Image open(VipsSource *source, Format format, int longestSide)
+static Image open(VipsSource *source)
 {
+    // Both formats may hold smaller copies, which need not show the same.
     Image image(vips_image_new_from_source(source, "", "access", VIPS_ACCESS_SEQUENTIAL, nullptr));
-    if (!image || isTooLarge(image->Xsize, image->Ysize))
-        return nullptr;
-    const double scale = std::max(double(longestSide) / std::max(image->Xsize, image->Ysize),
-        1.0 / std::min(image->Xsize, image->Ysize)); // of a line something has to be left
-    if (format != Format::WebP || scale >= 1)
-        return image;
-    // WebP alone shrinks well while it decodes. What the others offer for it are smaller copies in the same file, and
-    // those need not show the same.
-    VipsImage *shrunk = nullptr;
-    if (vips_webpload_source(source, &shrunk, "access", VIPS_ACCESS_SEQUENTIAL, "scale", scale, nullptr) != 0)
-        return nullptr;
-    return Image(shrunk);
+    return image && !isTooLarge(image->Xsize, image->Ysize) ? std::move(image) : nullptr;
 }
 
 static QByteArray profileOf(VipsImage *image)
@@ -193,7 +182,7 @@ static void addRows(VipsImage *image, PictureRows &rows)
     }
 }
 
-bool VipsPictureDecoder::decode(const FileDescriptor &file, int longestSide, PictureRows &rows)
+bool VipsPictureDecoder::decode(const FileDescriptor &file, PictureRows &rows)
 {
     if (!m_isReady || ::lseek(file.get(), 0, SEEK_SET) != 0)
         return false;
@@ -201,7 +190,7 @@ bool VipsPictureDecoder::decode(const FileDescriptor &file, int longestSide, Pic
     const auto format = source ? formatOf(source.get()) : std::nullopt;
     if (!format)
         return false;
-    Image image = open(source.get(), *format, longestSide);
+    Image image = open(source.get());
     if (!image)
         return false;
     PictureHeader header { { image->Xsize, image->Ysize } };

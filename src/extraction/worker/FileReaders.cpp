@@ -25,8 +25,7 @@ static constexpr std::array<std::string_view, 1> spreadsheetExtensions { "xlsx" 
 static constexpr std::array<std::string_view, 1> presentationExtensions { "pptx" };
 static constexpr std::array<std::string_view, 1> richTextExtensions { "rtf" };
 // What the module of pictures leaves to the further decoder, unless the name deceives.
-static constexpr std::array<std::string_view, 7> furtherExtensions { "webp", "tiff", "tif", "heic", "heif", "heics",
-    "avif" };
+static constexpr std::array<std::string_view, 6> furtherExtensions { "tiff", "tif", "heic", "heif", "heics", "avif" };
 
 template <typename List> static bool contains(const List &list, std::string_view extension)
 {

@@ -15,8 +15,6 @@ static bool hasLoader(const char *name) { return vips_type_find("VipsOperation",
 extern "C" Q_DECL_EXPORT void varloFurtherDecoder1(FurtherDecoderModule &module)
 {
     module.decoder = std::make_unique<VipsPictureDecoder>();
-    if (!hasLoader("webpload_source"))
-        module.missingFormats << u"webp"_s;
     if (!hasLoader("tiffload_source"))
         module.missingFormats << u"tiff"_s << u"tif"_s;
     if (!hasLoader("heifload_source"))

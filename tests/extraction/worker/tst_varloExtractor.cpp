@@ -54,7 +54,7 @@ void VarloExtractorTest::previews_data()
     QTest::addColumn<QSize>("size"); // none: a text
     QTest::newRow("page") << u"artikel bijen.pdf"_s << QSize(212, 300);
     QTest::newRow("picture") << u"vakantie (2).jpeg"_s << QSize(300, 225);
-    QTest::newRow("picture by the further decoder") << u"photo from Anna.webp"_s << QSize(300, 225);
+    QTest::newRow("picture by the further decoder") << u"kaart.tiff"_s << QSize(300, 225);
     QTest::newRow("document") << u"Untitled 3.rtf"_s << QSize();
     QTest::newRow("text") << u"notes.md"_s << QSize();
 }
@@ -72,8 +72,8 @@ void VarloExtractorTest::previews()
 void VarloExtractorTest::readsPictureOfAnotherKind()
 {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(u"webp in fact.jpg"_s);
-    QVERIFY(QFile::copy(inbox.filePath(u"photo from Anna.webp"_s), path));
+    const QString path = folder.filePath(u"heic in fact.jpg"_s);
+    QVERIFY(QFile::copy(inbox.filePath(u"IMG_4410.heic"_s), path));
     IsolatedContentReader reader(m_flags, { {}, {}, {} }); // whose starter has not loaded the decoder for others
     const Extraction extraction = QCoro::waitFor(reader.read(path.toStdString()));
     QVERIFY(std::holds_alternative<FileContent>(extraction));
