@@ -13,12 +13,13 @@
 namespace Varlo {
 
 /// What is said to the starter, one message each, over a socket of type SOCK_SEQPACKET that it finds as descriptor 3.
-/// It answers nothing; that it is gone shows in the socket's end.
+/// It answers nothing but Confirm; that it is gone shows in the socket's end.
 struct ControlMessage {
     enum class Action {
         Start, ///< a worker for `job`; comes with the worker's end of its answer socket and, unless inspecting, the
                ///< file
         Stop, ///< whatever is left of that worker
+        Confirm, ///< that nothing is left of it, which is then stopped; the answer is the same message
     };
 
     Action action = Action::Start;

@@ -103,16 +103,22 @@ bool ExtractorProcess::start()
         return false;
     m_control = std::move(sockets->ours);
     m_controlNotifier = std::make_unique<QSocketNotifier>(m_control.get(), QSocketNotifier::Read);
-    connect(m_controlNotifier.get(), &QSocketNotifier::activated, this, &ExtractorProcess::takeEndOfStarter);
+    connect(m_controlNotifier.get(), &QSocketNotifier::activated, this, &ExtractorProcess::takeNews);
     return true;
 }
 
-/// It never says anything, so what can be read is the end of the socket.
-bool ExtractorProcess::isStarterGone() const
+enum class ExtractorProcess::StarterState { Silent, HasNews, Gone };
+
+ExtractorProcess::StarterState ExtractorProcess::starterState() const
 {
     char byte = 0;
-    return !m_control.isOpen() || ::recv(m_control.get(), &byte, 1, MSG_PEEK | MSG_DONTWAIT) >= 0 || errno != EAGAIN;
+    const ssize_t size = m_control.isOpen() ? ::recv(m_control.get(), &byte, 1, MSG_PEEK | MSG_DONTWAIT) : 0;
+    if (size > 0)
+        return StarterState::HasNews;
+    return size < 0 && errno == EAGAIN ? StarterState::Silent : StarterState::Gone;
 }
+
+bool ExtractorProcess::isStarterGone() const { return starterState() == StarterState::Gone; }
 
 /// Gives it a moment: once it has noticed the end of the control socket, it leaves no worker behind.
 static void awaitEnd(pid_t process)
@@ -134,6 +140,30 @@ void ExtractorProcess::endStarter()
     ::kill(m_starter, SIGKILL); // workers of one that hangs die with it
     retryInterrupted([this] { return ::waitpid(m_starter, nullptr, 0); });
     m_starter = -1;
+}
+
+void ExtractorProcess::takeNews()
+{
+    if (starterState() == StarterState::Silent)
+        return; // a notifier that replaces another for the same descriptor may be told of what that one was for
+    const std::optional<ReceivedControlMessage> confirmation = receiveControlMessage(m_control);
+    if (!confirmation) {
+        takeEndOfStarter();
+        return;
+    }
+    const auto call = std::find_if(m_calls.begin(), m_calls.end(),
+        [&confirmation](const WorkerCall *each) { return each->id() == confirmation->message.id; });
+    if (call != m_calls.end())
+        (*call)->end(WorkerFailure::Unsafe);
+}
+
+/// A starter that was killed takes its workers along, and they may be gone first. Only one that is alive can confirm
+/// that a worker has died by itself.
+void ExtractorProcess::takeDeath(WorkerCall *call)
+{
+    const ControlMessage question { ControlMessage::Action::Confirm, call->id(), {} };
+    if (isStarterGone() || !sendControlMessage(m_control, question, {}))
+        call->end(WorkerFailure::StarterGone);
 }
 
 void ExtractorProcess::takeEndOfStarter()
@@ -168,8 +198,7 @@ QFuture<WorkerOutcome> ExtractorProcess::ask(const WorkerJob &job, const FileDes
     auto *const call = new WorkerCall(message.id, job, m_limits, std::move(answer->ours));
     m_calls.push_back(call);
     connect(call, &WorkerCall::lockedIn, this, &ExtractorProcess::lockedIn);
-    connect(call, &WorkerCall::died, this,
-        [this, call] { call->end(isStarterGone() ? WorkerFailure::StarterGone : WorkerFailure::Unsafe); });
+    connect(call, &WorkerCall::died, this, [this, call] { takeDeath(call); });
     connect(call, &WorkerCall::ended, this, [this, call] { forget(call); });
     return call->outcome();
 }

@@ -37,9 +37,13 @@ signals:
 
 private:
     [[nodiscard]] bool start();
+    enum class StarterState;
+    [[nodiscard]] StarterState starterState() const;
     [[nodiscard]] bool isStarterGone() const;
+    void takeNews();
     void takeEndOfStarter();
     void endStarter();
+    void takeDeath(WorkerCall *call);
     void forget(WorkerCall *call);
 
     QString m_program;

@@ -36,7 +36,7 @@ void WorkerCall::readMessages()
 {
     // One byte more than any message has: a longer one is cut, and then too long all the same.
     std::array<char, mostChunkBytes + 1> buffer;
-    for (int count = 0; count < mostMessagesAtOnce && !m_hasEnded; ++count) {
+    for (int count = 0; count < mostMessagesAtOnce && !m_hasEnded && !m_isSocketAtEnd; ++count) {
         const ssize_t size
             = retryInterrupted([&] { return ::recv(m_socket.get(), buffer.data(), buffer.size(), MSG_DONTWAIT); });
         if (size < 0 && errno == EAGAIN)
@@ -63,6 +63,8 @@ void WorkerCall::takeMessage(QByteArrayView message)
 
 void WorkerCall::takeEndOfSocket()
 {
+    m_isSocketAtEnd = true;
+    m_notifier.setEnabled(false);
     if (m_decoder.state() == WorkerAnswerDecoder::State::Complete)
         end(m_decoder.answer());
     else

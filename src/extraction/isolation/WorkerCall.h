@@ -37,7 +37,7 @@ public:
 
 signals:
     void lockedIn(const Varlo::SandboxLayers &layers);
-    /// The socket has ended without an answer. Whoever hears this says why, with end().
+    /// The socket has ended without an answer. Whoever hears this says why, with end(), now or later.
     void died();
     void ended();
 
@@ -55,6 +55,7 @@ private:
     QDeadlineTimer m_deadline;
     QTimer m_timer;
     QPromise<WorkerOutcome> m_promise;
+    bool m_isSocketAtEnd = false;
     bool m_hasEnded = false;
 };
 

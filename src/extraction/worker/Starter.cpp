@@ -76,6 +76,8 @@ bool Starter::takeMessage()
     const ControlMessage &message = received->message;
     if (message.action == ControlMessage::Action::Stop)
         return stop(message.id);
+    if (message.action == ControlMessage::Action::Confirm)
+        return stop(message.id) && confirm(message.id);
     std::vector<FileDescriptor> &descriptors = received->descriptors;
     const std::size_t expected = message.job.kind == WorkerJob::Kind::Inspect ? 1 : 2;
     if (descriptors.size() != expected || m_waiting.size() >= mostWaiting)
@@ -100,12 +102,24 @@ bool Starter::stop(quint32 id)
     });
 }
 
+bool Starter::confirm(quint32 id)
+{
+    const bool isInBranch = std::any_of(
+        m_branches.begin(), m_branches.end(), [id](const Branch &branch) { return branch.jobs.contains(id); });
+    if (!isInBranch)
+        return sendControlMessage(m_control, { ControlMessage::Action::Confirm, id, {} }, {}).has_value();
+    m_toConfirm.insert(id);
+    return true;
+}
+
 bool Starter::takeNews(Branch &branch)
 {
     const std::optional<ReceivedControlMessage> received = receiveControlMessage(branch.control);
-    if (received)
-        branch.jobs.erase(received->message.id);
-    return received.has_value();
+    if (!received)
+        return false;
+    const quint32 id = received->message.id;
+    branch.jobs.erase(id);
+    return m_toConfirm.erase(id) == 0 || confirm(id);
 }
 
 std::size_t Starter::workerCount() const
@@ -193,6 +207,7 @@ void Starter::becomeBranch(FileDescriptor control, std::string_view libraries, p
     m_waiting.clear();
     m_workers.clear();
     m_branches.clear();
+    m_toConfirm.clear();
 }
 
 static void closeAllBut(int first, int second)

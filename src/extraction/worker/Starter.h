@@ -48,12 +48,13 @@ private:
     // False, of these: it is time to end.
     [[nodiscard]] bool takeMessage();
     [[nodiscard]] bool stop(quint32 id);
+    [[nodiscard]] bool confirm(quint32 id);
     [[nodiscard]] bool startWaiting();
     [[nodiscard]] bool start(const WaitingJob &job);
     [[nodiscard]] bool handOver(const WaitingJob &job, Branch &branch);
     [[nodiscard]] bool reap();
     [[nodiscard]] bool forget(pid_t process);
-    [[nodiscard]] static bool takeNews(Branch &branch);
+    [[nodiscard]] bool takeNews(Branch &branch);
 
     [[nodiscard]] bool isBranch() const { return !m_libraries.empty(); }
     [[nodiscard]] std::size_t workerCount() const;
@@ -71,6 +72,7 @@ private:
     std::deque<WaitingJob> m_waiting;
     std::map<pid_t, quint32> m_workers;
     std::vector<Branch> m_branches;
+    std::set<quint32> m_toConfirm; // once their branch has told that they are over
     std::string m_libraries; // that this process has loaded, if it is a branch
 };
 
