@@ -116,8 +116,8 @@ public:
     /// Of the rename action under way, or of the latest: the files it has come to, and all of them.
     [[nodiscard]] int renameDoneCount() const { return m_renameDoneCount; }
     [[nodiscard]] int renameTotalCount() const { return m_renameTotalCount; }
-    /// Every file failed since no key is stored.
-    [[nodiscard]] bool isKeyMissing() const { return m_keyMissingCount > 0 && m_keyMissingCount == rowCount(); }
+    /// A file failed since no key is stored.
+    [[nodiscard]] bool isKeyMissing() const { return m_keyMissingCount > 0; }
 
     /// Admits files, and the files below folders, that Varlo can name and that are not in the batch yet; passes over
     /// everything else in silence. Rows appear slice by slice while the event loop goes on; calls are served one after

@@ -123,7 +123,7 @@ class SettingsTest(WindowTest):
     def test_addresses_open_outside(self):
         opened = self.start_with_opener()
         self.open_settings("About")
-        self.press("Website")
+        self.click(self.find("Website", "label"))  # the whole row is the link
         self.press("Contact support")
         self.press("Documentation")
         until(lambda: len(opened.read_text().splitlines()) == 3, "three addresses")
@@ -277,10 +277,11 @@ class KeyTest(WindowTest):
 
     def test_key_is_saved_used_removed_and_never_shown(self):
         self.start_keyring()
-        self.start(self.write("a.txt"), server=None)
+        self.start(self.write("a.txt"), self.write("empty.txt", ""), server=None)
         self.focus()
         self.wait_for_row("a.txt", "Pending")
         self.press("Suggest Names")
+        self.wait_for_row("empty.txt", "No text found")
         self.find("No API key set.", "alert")
         self.click(self.find("Use your own provider", "push button"))
         self.find("Use your own provider", "dialog")

@@ -188,6 +188,19 @@ class MainWindowTest(WindowTest):
         self.start(str(self.files / "Offered.txt"))
         self.wait_for_row("Offered.txt", "Already renamed")
 
+    def test_it_moves_without_complaint(self):
+        self.start(self.write("a.txt"), server=["--reply", "Offered", "--delay", "300"], is_animated=True)
+        self.wait_for_row("a.txt", "Pending")
+        self.press("Suggest Names")
+        self.wait_for_row("a.txt", "Suggested")
+        self.press("Rename")
+        self.wait_for_row("Offered.txt", "Renamed")
+        self.press("History")
+        self.press("Revert")
+        self.wait_for_row("a.txt", "Pending")
+        self.press("Close", within="History")
+        self.wait_for_none("History", "dialog")
+
     def test_ending_while_rows_are_made_says_nothing(self):
         self.start()
         self.stop()

@@ -108,7 +108,7 @@ class WindowTest(unittest.TestCase):
         self.addCleanup(model.kill)
         return model.stdout.readline().strip()
 
-    def start(self, *files, server=(), key="sk-test-3f9a77", environment=None):
+    def start(self, *files, server=(), key="sk-test-3f9a77", environment=None, is_animated=False):
         if not self.preferences_file.exists():
             self.set_preferences(hasCompletedOnboarding=True)
         model = {} if server is None else {"VARLO_ENDPOINT": self.serve(*server), "VARLO_API_KEY": key}
@@ -117,6 +117,8 @@ class WindowTest(unittest.TestCase):
             "XDG_DATA_HOME": str(self.home / "data"), "XDG_STATE_HOME": str(self.home / "state"), "LC_ALL": "C.UTF-8",
             "QT_QPA_PLATFORM": "xcb", "QT_QUICK_BACKEND": "software", "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
             "VARLO_NO_ANIMATIONS": "1"} | model | (environment or {})
+        if is_animated:
+            del self.environment["VARLO_NO_ANIMATIONS"]
         self.window = subprocess.Popen([WINDOW, *files], env=self.environment, stderr=self.stderr)
         self.frame = until(self.find_frame, "the window")
 

@@ -44,7 +44,11 @@ T.Button {
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()
 
-    Tip { text: button.help; isWanted: button.hovered && button.help !== "" }
+    // Else it would come up over what the button opened, until the pointer moves.
+    property bool wasPressed: false
+    onPressedChanged: if (pressed) wasPressed = true
+    onHoveredChanged: if (!hovered) wasPressed = false
+    Tip { text: button.help; isWanted: button.hovered && !button.wasPressed && button.help !== "" }
 
     contentItem: Item {
         implicitWidth: row.implicitWidth
@@ -56,6 +60,7 @@ T.Button {
             spacing: button.spacing
 
             Icon {
+                id: sign
                 anchors.verticalCenter: parent.verticalCenter
                 visible: button.iconName !== ""
                 name: button.iconName
@@ -67,7 +72,7 @@ T.Button {
                     from: 0
                     to: 360
                     duration: Theme.spin
-                    onStopped: target.rotation = 0
+                    onStopped: sign.rotation = 0
                 }
             }
             Label {

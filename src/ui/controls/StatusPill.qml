@@ -35,6 +35,7 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         spacing: 5
         Icon {
+            id: sign
             anchors.verticalCenter: parent.verticalCenter
             name: pill.look.icon
             size: 15
@@ -45,7 +46,7 @@ Rectangle {
                 from: 0
                 to: 360
                 duration: Theme.spin
-                onStopped: target.rotation = 0
+                onStopped: sign.rotation = 0
             }
         }
         Label {

@@ -58,6 +58,8 @@ ColumnLayout {
         SettingsRow {
             iconName: "key"
             title: qsTr("Use your own provider")
+            isClickable: true
+            onClicked: pane.providerRequested()
             detail: pane.models.provider.hasKey ? qsTr("Your own key is in use.") : qsTr("No API key set.")
             Arrow {
                 systemName: "chevron-right"
@@ -79,6 +81,8 @@ ColumnLayout {
             visible: pane.models.website !== ""
             iconName: "world"
             title: qsTr("Website")
+            isClickable: true
+            onClicked: Qt.openUrlExternally(pane.models.website)
             Arrow {
                 systemName: "arrow-up-right"
                 help: qsTr("Website")

@@ -15,7 +15,9 @@ Item {
     property bool isTitleStrong: true
     property int titleElide: Text.ElideRight
     property string help ///< a tooltip of the title
+    property bool isClickable: false ///< as a whole; the keyboard uses the control in it
     default property alias controls: controls.data
+    signal clicked
 
     Layout.fillWidth: true
     implicitHeight: Math.max(Theme.text(48), line.implicitHeight + 16)
@@ -25,6 +27,11 @@ Item {
         anchors { left: parent.left; leftMargin: 14; right: parent.right; rightMargin: 1 }
         height: 1
         color: Theme.line
+    }
+    MouseArea { // below the controls, which get their own clicks
+        anchors.fill: parent
+        enabled: row.isClickable
+        onClicked: row.clicked()
     }
     RowLayout {
         id: line
