@@ -144,7 +144,7 @@ def measure_memory(extractor, samples):
         return True
     with Starter(extractor) as starter:
         chosen = {path.suffix.lower(): path for path in sorted(samples.iterdir())}
-        for extension in (".pdf", ".jpg", ".webp"):  # every library but the models is loaded then
+        for extension in (".pdf", ".jpg", ".heic"):  # every library but the models is loaded then
             starter.read(chosen[extension])
         time.sleep(0.2)  # the workers end after their answers
         idle = len(starter.processes())
