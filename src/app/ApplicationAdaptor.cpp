@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/ApplicationAdaptor.h"
 
+#include "notify/suggestionsText.h"
 #include "platform/fileUri.h"
 #include "platform/shownPath.h"
 
@@ -17,16 +18,17 @@ ApplicationAdaptor::ApplicationAdaptor(SingleInstance &instance)
 
 void ApplicationAdaptor::Activate(const QVariantMap &platform_data)
 {
-    emit m_instance.requested({ {}, platform_data });
+    emit m_instance.requested({ {}, {}, platform_data });
 }
 
 void ApplicationAdaptor::Open(const QStringList &uris, const QVariantMap &platform_data)
 {
-    SingleInstance::Request request { {}, platform_data };
+    SingleInstance::Request request { {}, {}, platform_data };
     for (const QString &uri : uris) {
         if (const auto path = pathOfFileUri(uri.toUtf8()))
             request.files.push_back(standardizedPath(*path));
     }
+    request.suggestions = suggestedFiles(request.files, platform_data.value(suggestionsKey).toString());
     emit m_instance.requested(request);
 }
 

@@ -18,7 +18,8 @@ public:
 
 public slots:
     void Activate(const QVariantMap &platform_data);
-    /// Addresses of files, of which those that are not on this computer are passed over.
+    /// Addresses of files, of which those that are not on this computer are passed over; names for them may stand in
+    /// the platform data (suggestionsKey).
     void Open(const QStringList &uris, const QVariantMap &platform_data);
     /// "settings", "history" or "check-for-updates", without a parameter; anything else is answered with an error.
     void ActivateAction(const QString &action_name, const QVariantList &parameter, const QVariantMap &platform_data,

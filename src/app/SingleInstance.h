@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <filesystem>
+#include "notify/SuggestedFile.h"
 #include <QDBusConnection>
 #include <QObject>
 #include <QVariantMap>
@@ -23,6 +23,7 @@ public:
     /// What a start was asked for.
     struct Request {
         std::vector<std::filesystem::path> files;
+        std::vector<SuggestedFile> suggestions; ///< names for some of the files
         /// What lets a window come to the front: "activation-token" (Wayland) and "desktop-startup-id" (X11).
         QVariantMap platformData;
     };

@@ -74,7 +74,7 @@ static void serve(Application &varlo, SingleInstance &instance)
     QObject::connect(
         &instance, &SingleInstance::requested, &instance, [&varlo](const SingleInstance::Request &request) {
             if (!request.files.empty())
-                varlo.batch().addFiles(request.files, true);
+                varlo.batch().addFiles(request.files, true, request.suggestions);
             varlo.activate(request.platformData);
         });
     QObject::connect(&instance, &SingleInstance::actionRequested, &instance,
@@ -103,7 +103,7 @@ static int run(int argumentCount, char **arguments)
 
     Arguments start = read(argumentCount, arguments);
     SingleInstance instance;
-    switch (instance.begin({ start.files, activation })) {
+    switch (instance.begin({ start.files, {}, activation })) {
     case SingleInstance::Role::First:
         break;
     case SingleInstance::Role::Second:

@@ -20,7 +20,8 @@ ReadyNotice::ReadyNotice(std::unique_ptr<Notifier> notifier)
 void ReadyNotice::add(const FileItem &item)
 {
     if (std::holds_alternative<FileItem::Suggested>(item.status)) {
-        m_files.push_back(item.path);
+        m_files.push_back(
+            { item.path, item.identity.value_or(FileIdentity {}), item.suggestedName, item.suggestedTags });
         m_newestNames.append(visibleText(suggestedFileName(item)));
     } else if (const auto *failed = std::get_if<FileItem::Failed>(&item.status)) {
         m_failure = m_failedCount++ == 0 ? visibleMessage(failed->message) : m_failure;

@@ -25,7 +25,7 @@ private:
     [[nodiscard]] Notification notification() const;
 
     std::unique_ptr<Notifier> m_notifier;
-    std::vector<std::filesystem::path> m_files; ///< with a name, and not looked at yet
+    std::vector<SuggestedFile> m_files; ///< not looked at yet
     QStringList m_newestNames;
     int m_failedCount = 0;
     QString m_failure; ///< why the first of them failed

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "notify/Notification.h"
-#include <filesystem>
+#include "notify/SuggestedFile.h"
 #include <functional>
 #include <vector>
 
@@ -21,9 +21,9 @@ public:
     virtual void show(const Notification &notification) = 0;
     /// Takes the notification away; `whenGone` follows where there was one.
     virtual void close() = 0;
-    /// Opens the window with these files in its list, in the running one if there is any, and brings it to the front
-    /// where an action of the notification led here.
-    virtual void openWindow(const std::vector<std::filesystem::path> &files) = 0;
+    /// Opens the window with these files and their names in its list, in the running one if there is any, and brings it
+    /// to the front where an action of the notification led here.
+    virtual void openWindow(const std::vector<SuggestedFile> &files) = 0;
 
     /// The user chose the action with this id; most desktops close the notification then.
     std::function<void(const QString &actionId)> whenChosen = [](const QString &) {};

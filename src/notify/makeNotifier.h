@@ -13,6 +13,6 @@ namespace Varlo {
 
 /// What the module exports. The name changes with the interface, so that another version's module is refused.
 using NotifierEntry = Notifier *(*)();
-inline constexpr char notifierEntryName[] = "varloNotifier1";
+inline constexpr char notifierEntryName[] = "varloNotifier2";
 
 } // namespace Varlo

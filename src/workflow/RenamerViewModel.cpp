@@ -11,6 +11,8 @@
 #include "renaming/FinderPermission.h"
 #include "renaming/renameWithFinder.h"
 #include "renaming/targetName.h"
+#include "suggestion/interpretReply.h"
+#include "suggestion/sanitizeFilename.h"
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -147,7 +149,8 @@ qsizetype RenamerViewModel::completedCount() const
     return static_cast<qsizetype>(m_files.size()) - m_pendingCount - m_processingCount;
 }
 
-QCoro::Task<void> RenamerViewModel::addFiles(std::vector<std::filesystem::path> paths, bool reportEmpty)
+QCoro::Task<void> RenamerViewModel::addFiles(
+    std::vector<std::filesystem::path> paths, bool reportEmpty, std::vector<SuggestedFile> suggestions)
 {
     const QPointer<RenamerViewModel> self = this;
     const quint64 clearCount = m_clearCount;
@@ -157,6 +160,9 @@ QCoro::Task<void> RenamerViewModel::addFiles(std::vector<std::filesystem::path> 
 
     std::ranges::transform(paths, paths.begin(), standardizedPath);
     const auto walk = std::make_shared<FolderWalk>(std::move(paths));
+    Suggestions suggestionOf;
+    for (const SuggestedFile &file : suggestions)
+        suggestionOf.emplace(file.path.native(), &file);
     qsizetype admitted = 0;
     while (m_clearCount == clearCount) {
         // The disk may be slow or asleep, so it is never waited for on this thread.
@@ -166,7 +172,7 @@ QCoro::Task<void> RenamerViewModel::addFiles(std::vector<std::filesystem::path> 
             co_return;
         if (found.empty() || m_clearCount != clearCount)
             break;
-        admitted += admit(std::move(found));
+        admitted += admit(std::move(found), suggestionOf);
     }
     if (m_clearCount == clearCount) {
         if (admitted > 0)
@@ -204,14 +210,16 @@ static QUuid makeId()
         bytes[1], bytes[2], bytes[3], bytes[4], bytes[5], bytes[6], bytes[7]);
 }
 
-qsizetype RenamerViewModel::admit(std::vector<FolderWalk::File> found)
+qsizetype RenamerViewModel::admit(std::vector<FolderWalk::File> found, const Suggestions &suggestions)
 {
     const int firstRow = m_announcedRows;
+    std::vector<int> knownRows;
     for (FolderWalk::File &file : found) {
         const auto row = static_cast<int>(m_files.size());
         FileItem &item = m_files.emplace_back();
         item.path = std::move(file.path);
-        if (!m_rowsByPath.insert(row).second) {
+        if (const auto [same, isNew] = m_rowsByPath.insert(row); !isNew) {
+            knownRows.push_back(*same);
             m_files.pop_back();
             continue;
         }
@@ -220,18 +228,50 @@ qsizetype RenamerViewModel::admit(std::vector<FolderWalk::File> found)
         item.identity = file.identity;
         if (m_with.renameLog.hasStandingRename(item.path))
             item.status = FileItem::AlreadyRenamed {};
+        else
+            takeSuggestion(item, suggestions);
         m_rowOfId.insert(item.id, row);
         m_totalBytes += item.byteSize;
         count(item, +1);
     }
     const auto rowsNow = static_cast<int>(m_files.size());
-    if (rowsNow == firstRow)
-        return 0;
-    beginInsertRows({}, firstRow, rowsNow - 1);
-    m_announcedRows = rowsNow;
-    endInsertRows();
-    emit countsChanged();
+    if (rowsNow > firstRow) {
+        beginInsertRows({}, firstRow, rowsNow - 1);
+        m_announcedRows = rowsNow;
+        endInsertRows();
+        emit countsChanged();
+    }
+    takeSuggestions(knownRows, suggestions);
     return rowsNow - firstRow;
+}
+
+/// Cleaned again, since whoever speaks to this process may have made it up.
+bool RenamerViewModel::takeSuggestion(FileItem &item, const Suggestions &suggestions)
+{
+    const auto found = suggestions.find(item.path.native());
+    if (found == suggestions.end() || !std::holds_alternative<FileItem::Pending>(item.status)
+        || item.identity != found->second->identity)
+        return false;
+    const QString name = sanitizeFilename(found->second->name);
+    if (name.isEmpty())
+        return false;
+    item.status = FileItem::Suggested {};
+    item.suggestedName = name;
+    item.suggestedTags = parseTags(found->second->tags.join(u','));
+    return true;
+}
+
+void RenamerViewModel::takeSuggestions(const std::vector<int> &rows, const Suggestions &suggestions)
+{
+    if (suggestions.empty())
+        return;
+    for (const int row : rows) {
+        FileItem item = m_files[static_cast<std::size_t>(row)];
+        if (!takeSuggestion(item, suggestions))
+            continue;
+        setStatus(row, item.status);
+        setSuggestion(row, item.suggestedName, item.suggestedTags);
+    }
 }
 
 void RenamerViewModel::clear()

@@ -5,6 +5,7 @@
 #include "extraction/ContentReader.h"
 #include "history/applyHistoryChanges.h"
 #include "history/RenameLog.h"
+#include "notify/SuggestedFile.h"
 #include "platform/AutomationHost.h"
 #include "platform/SystemLocale.h"
 #include "renaming/FileRenamer.h"
@@ -22,6 +23,7 @@
 #include <QCoroTask>
 #include <QHash>
 #include <QUrl>
+#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -122,8 +124,9 @@ public:
     /// Admits files, and the files below folders, that Varlo can name and that are not in the batch yet; passes over
     /// everything else in silence. Rows appear slice by slice while the event loop goes on; calls are served one after
     /// the other. When nothing was admitted and `reportEmpty` is set, dropFeedback() says so at the end. clear() ends
-    /// it.
-    QCoro::Task<void> addFiles(std::vector<std::filesystem::path> paths, bool reportEmpty);
+    /// it. A file that would wait for a suggestion has its name from `suggestions` at once, where there is one for it.
+    QCoro::Task<void> addFiles(
+        std::vector<std::filesystem::path> paths, bool reportEmpty, std::vector<SuggestedFile> suggestions = {});
     /// addFiles() has not come to its end.
     [[nodiscard]] bool isAdmitting() const { return !m_admissionTurns.isIdle(); }
     /// Empties the batch. Nothing on disk and nothing in the rename log changes.
@@ -219,7 +222,10 @@ private:
         QStringList tags;
     };
 
-    qsizetype admit(std::vector<FolderWalk::File> found);
+    using Suggestions = std::unordered_map<std::string_view, const SuggestedFile *>; // by path
+    qsizetype admit(std::vector<FolderWalk::File> found, const Suggestions &suggestions);
+    static bool takeSuggestion(FileItem &item, const Suggestions &suggestions);
+    void takeSuggestions(const std::vector<int> &rows, const Suggestions &suggestions);
     QCoro::Task<void> runPass();
     QCoro::Task<void> runLane(std::shared_ptr<Pass> pass);
     QCoro::Task<SuggestionResult> suggestionFor(QUuid id, std::filesystem::path path, std::shared_ptr<const Pass> pass);

@@ -5,6 +5,7 @@
 
 usage: test_notifications.py VARLO [unittest argument...]
 """
+import json
 import os
 import pathlib
 import signal
@@ -204,6 +205,11 @@ class NotificationsTest(dbusmock.DBusTestCase):
         self.assertEqual(sorted(urllib.parse.unquote_to_bytes(str(uri)) for uri in uris),
                          sorted(b"file://" + path for path in paths))
         self.assertEqual(platform_data["activation-token"], "token-1")
+        entries = json.loads(platform_data["com.varlo.suggestions"])
+        inodes = [os.stat(urllib.parse.unquote_to_bytes(str(uri))[len("file://"):]).st_ino for uri in uris]
+        self.assertEqual([int(entry["inode"]) for entry in entries], inodes)
+        for entry in entries:
+            self.assertIn(entry["name"], text)
         self.emit("NotificationClosed", "uu", self.shown_id(), dbus.UInt32(2))
 
         # What was looked at is not told again; what is not is told in one notification that grows.

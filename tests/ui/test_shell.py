@@ -9,6 +9,8 @@ import subprocess
 import time
 import unittest
 
+import dbus
+import dbusmock
 from gi.repository import Gio, GLib
 
 from window_driver import PATIENCE, VARLO, WINDOW, WindowTest, below, is_available, main, until
@@ -249,6 +251,27 @@ class ShellTest(WindowTest):
         self.call("Open", f"['file://{path}']", "{}")
         self.frame = until(self.find_frame, "the window")
         self.wait_for_row("one.txt", "Pending")
+
+    def test_names_of_a_notification_are_not_asked_for_again(self):
+        service, desktop = dbusmock.DBusTestCase.spawn_server_template("notification_daemon", {"capabilities": "actions"})
+        self.addCleanup(service.wait)
+        self.addCleanup(service.kill)
+        self.start(server=["--reply", "Offered"])
+        self.write("a.txt")
+        self.write("b.txt")
+        watch = self.start_another("watch", "--notify", "--include-existing", str(self.files), program=(VARLO,))
+        self.addCleanup(watch.wait)
+        self.addCleanup(watch.kill)
+        until(lambda: desktop.GetMethodCalls("Notify", dbus_interface=dbusmock.MOCK_IFACE), "a notification")
+        os.replace(self.write("b.txt.new"), self.files / "b.txt")  # another file by now, of which nobody has seen anything
+        desktop.EmitSignal("org.freedesktop.Notifications", "ActionInvoked", "us", [dbus.UInt32(1), "review"],
+                           dbus_interface=dbusmock.MOCK_IFACE)
+        self.wait_for_row("a.txt", "Suggested")
+        self.wait_for_row("b.txt", "Pending")
+        self.press("Rename All")
+        self.wait_for_names("Offered.txt", "b.txt")
+        self.model.terminate()
+        self.assertIn("2 requests", self.model.stdout.read())
 
     def test_without_a_bus_it_starts(self):
         self.start()

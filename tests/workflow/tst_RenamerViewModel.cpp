@@ -3,6 +3,7 @@
 #include "workflow/TestBatch.h"
 #include <QSignalSpy>
 #include <QTest>
+#include <sys/stat.h>
 
 using namespace Varlo;
 using namespace Qt::StringLiterals;
@@ -16,6 +17,8 @@ private slots:
     void passesOverDuplicatesAndSaysSo();
     void leavesFeedbackAloneForTheWatcher();
     void recognisesFilesRenamedEarlier();
+    void takesNamesMadeElsewhere_data();
+    void takesNamesMadeElsewhere();
     void servesAdmissionsInTurnUntilCleared();
     void keepsFiveInFlightAndTakesLateFiles();
     void landsEveryOutcomeOnItsFile();
@@ -103,6 +106,47 @@ void RenamerViewModelTest::recognisesFilesRenamedEarlier()
     QCOMPARE(test.statuses(), (QStringList { u"alreadyRenamed"_s, u"pending"_s, u"pending"_s }));
     test.suggest();
     QCOMPARE(test.statuses(), (QStringList { u"alreadyRenamed"_s, u"suggested"_s, u"suggested"_s }));
+}
+
+void RenamerViewModelTest::takesNamesMadeElsewhere_data()
+{
+    QTest::addColumn<QString>("before"); // what the batch knows of the file already
+    QTest::addColumn<bool>("isSameFile");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("outcome");
+    const QString offered = u"suggested: Offered [one,two]"_s;
+    QTest::newRow("a new file") << u""_s << true << u"Offered"_s << offered;
+    QTest::newRow("another file under the path") << u""_s << false << u"Offered"_s << u"pending:  []"_s;
+    QTest::newRow("a name that is not clean")
+        << u""_s << true << u" ../Off\nered\" "_s << u"suggested: ..Offered [one,two]"_s;
+    QTest::newRow("a name of which nothing is left") << u""_s << true << u"//"_s << u"pending:  []"_s;
+    QTest::newRow("a file that waits") << u"added"_s << true << u"Offered"_s << offered;
+    QTest::newRow("a file that has a name") << u"suggested"_s << true << u"Offered"_s << u"suggested: new scan []"_s;
+    QTest::newRow("a file that Varlo has named") << u"renamed"_s << true << u"Offered"_s << u"alreadyRenamed:  []"_s;
+}
+
+void RenamerViewModelTest::takesNamesMadeElsewhere()
+{
+    QFETCH(QString, before);
+    QFETCH(bool, isSameFile);
+    QFETCH(QString, name);
+    TestBatch test;
+    const Path file = test.make("scan.txt");
+    if (before == "renamed"_L1)
+        test.log.record("/elsewhere/old.txt", file);
+    else if (!before.isEmpty())
+        test.add({ file });
+    if (before == "suggested"_L1)
+        test.suggest();
+    struct stat status { };
+    QCOMPARE(::stat(file.c_str(), &status), 0);
+    const FileIdentity identity { status.st_dev, status.st_ino + (isSameFile ? 0 : 1) };
+    QCoro::waitFor(test.batch->addFiles({ file }, true, { { file, identity, name, { u"One"_s, u"two, one"_s } } }));
+    const FileItem &item = test.batch->files().front();
+    QTEST(rawValue(item.status) + u": "_s + item.suggestedName + u" ["_s + item.suggestedTags.join(u',') + u']',
+        "outcome");
+    QCOMPARE(test.batch->hasPending(), std::holds_alternative<FileItem::Pending>(item.status));
+    QCOMPARE(test.batch->renamableCount(), item.suggestedName.isEmpty() ? 0 : 1);
 }
 
 void RenamerViewModelTest::servesAdmissionsInTurnUntilCleared()

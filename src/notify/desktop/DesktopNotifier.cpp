@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "notify/desktop/DesktopNotifier.h"
 
+#include "notify/suggestionsText.h"
+#include "platform/fileUri.h"
 #include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusServiceWatcher>
+#include <QTimer>
 #include <spawn.h>
 #include <unistd.h>
 
@@ -112,18 +115,12 @@ void DesktopNotifier::close()
     forget();
 }
 
-/// By its bytes, which need not be UTF-8.
-static QString fileUri(const std::filesystem::path &file)
-{
-    return u"file://"_s + QString::fromLatin1(QByteArray::fromStdString(file.native()).toPercentEncoding("/"));
-}
-
 /// Executes this program's own `open` subcommand, which knows where the window is.
-static void startWindow(const std::vector<std::filesystem::path> &files)
+static void startWindow(const std::vector<SuggestedFile> &files)
 {
     std::vector<std::string> words { "varlo", "open", "--" };
-    for (const std::filesystem::path &file : files)
-        words.push_back(file.native());
+    for (const SuggestedFile &file : files)
+        words.push_back(file.path.native());
     std::vector<char *> arguments;
     for (std::string &word : words)
         arguments.push_back(word.data());
@@ -132,26 +129,47 @@ static void startWindow(const std::vector<std::filesystem::path> &files)
     ::posix_spawn(&process, "/proc/self/exe", nullptr, nullptr, arguments.data(), environ);
 }
 
-void DesktopNotifier::openWindow(const std::vector<std::filesystem::path> &files)
+/// With the names beside the files, and `token` for the right to come to the front.
+static QDBusMessage openCall(const std::vector<SuggestedFile> &files, const QString &token)
+{
+    QStringList uris;
+    for (const SuggestedFile &file : files)
+        uris.append(QString::fromLatin1(fileUri(file.path)));
+    QVariantMap platformData { { suggestionsKey, suggestionsText(files) } };
+    if (!token.isEmpty()) {
+        platformData.insert(u"activation-token"_s, token);
+        platformData.insert(u"desktop-startup-id"_s, token);
+    }
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        applicationId, u"/com/varlo/Varlo"_s, u"org.freedesktop.Application"_s, u"Open"_s);
+    call << uris << platformData;
+    return call;
+}
+
+void DesktopNotifier::openWindow(const std::vector<SuggestedFile> &files)
 {
     // Started by the bus, the window belongs to nobody else: it does not end with a watch, and is not limited as one.
-    QStringList uris;
-    for (const std::filesystem::path &file : files)
-        uris.append(fileUri(file));
-    QVariantMap platformData;
-    if (const QString token = std::exchange(m_token, {}); !token.isEmpty())
-        platformData = { { u"activation-token"_s, token }, { u"desktop-startup-id"_s, token } };
-    QDBusMessage message = QDBusMessage::createMethodCall(
-        applicationId, u"/com/varlo/Varlo"_s, u"org.freedesktop.Application"_s, u"Open"_s);
-    message << uris << platformData;
+    const QDBusMessage message = openCall(files, std::exchange(m_token, {}));
     auto *call = new QDBusPendingCallWatcher(m_bus.asyncCall(message, openLimitMs), this);
-    connect(call, &QDBusPendingCallWatcher::finished, this, [call, files] {
+    connect(call, &QDBusPendingCallWatcher::finished, this, [this, call, message, files] {
         call->deleteLater();
         const QDBusError::ErrorType error = call->error().type();
         // A window that is only slow to answer has the files.
-        if (call->isError() && error != QDBusError::NoReply && error != QDBusError::Timeout)
-            startWindow(files);
+        if (!call->isError() || error == QDBusError::NoReply || error == QDBusError::Timeout)
+            return;
+        openOnceItIsThere(message); // its arguments name the files alone
+        startWindow(files);
     });
+}
+
+void DesktopNotifier::openOnceItIsThere(const QDBusMessage &call)
+{
+    auto *watcher = new QDBusServiceWatcher(applicationId, m_bus, QDBusServiceWatcher::WatchForRegistration, this);
+    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, [this, watcher, call] {
+        watcher->deleteLater();
+        m_bus.asyncCall(call, openLimitMs);
+    });
+    QTimer::singleShot(openLimitMs, watcher, &QObject::deleteLater); // a window of later is somebody else's
 }
 
 void DesktopNotifier::takeAction(uint id, const QString &actionId)

@@ -20,7 +20,7 @@ public:
 
     void show(const Notification &notification) override;
     void close() override;
-    void openWindow(const std::vector<std::filesystem::path> &files) override;
+    void openWindow(const std::vector<SuggestedFile> &files) override;
 
 private slots:
     void takeAction(uint id, const QString &actionId);
@@ -31,6 +31,7 @@ private slots:
 private:
     void askForCapabilities();
     void send();
+    void openOnceItIsThere(const QDBusMessage &call);
     [[nodiscard]] QDBusMessage notifyCall(const Notification &notification) const;
 
     QDBusConnection m_bus;

@@ -5,7 +5,7 @@
 
 using namespace Varlo;
 
-extern "C" Q_DECL_EXPORT Notifier *varloNotifier1()
+extern "C" Q_DECL_EXPORT Notifier *varloNotifier2()
 {
     const QDBusConnection bus = QDBusConnection::sessionBus();
     return bus.isConnected() ? new DesktopNotifier(bus) : nullptr; // whoever asked for it owns it
