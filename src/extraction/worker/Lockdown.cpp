@@ -87,6 +87,10 @@ constexpr __u64 readFolder = LANDLOCK_ACCESS_FS_READ_FILE | LANDLOCK_ACCESS_FS_R
 // Libraries that are loaded late, fonts, tables for text in PDF files, models, time zones.
 constexpr std::array readablePaths { "/usr/lib", "/lib", "/lib64", "/usr/share", "/usr/local/share/fonts", "/etc/fonts",
     "/var/cache/fontconfig", "/etc/ld.so.cache" };
+// The same inside a Flatpak, where /app is the application's own prefix and the fonts of the system come from outside
+// (https://docs.flatpak.org/en/latest/sandbox-permissions.html). Elsewhere /app may be anything.
+constexpr std::array readableFlatpakPaths { "/app/lib", "/app/share", "/run/host/fonts", "/run/host/local-fonts",
+    "/run/host/user-fonts", "/run/host/fonts-cache" };
 
 } // namespace
 
@@ -239,6 +243,10 @@ Lockdown::Lockdown(const std::vector<std::filesystem::path> &readableFolders)
     m_landlockRules = FileDescriptor(static_cast<int>(::syscall(SYS_landlock_create_ruleset, &rules, sizeof rules, 0)));
     for (const char *path : readablePaths)
         allowReading(m_landlockRules, path);
+    if (::access("/.flatpak-info", F_OK) == 0) {
+        for (const char *path : readableFlatpakPaths)
+            allowReading(m_landlockRules, path);
+    }
     for (const std::filesystem::path &folder : readableFolders)
         allowReading(m_landlockRules, folder);
 }
