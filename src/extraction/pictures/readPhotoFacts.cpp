@@ -5,6 +5,7 @@
 #include "extraction/pictures/PictureKind.h"
 #include "platform/linux/MappedFile.h"
 #include <algorithm>
+#include <cstdint>
 #include <exiv2/exiv2.hpp>
 #include <mutex>
 #include <QStringDecoder>
@@ -17,7 +18,9 @@ static void prepareExiv2()
     std::call_once(isPrepared, [] {
         Exiv2::LogMsg::setLevel(Exiv2::LogMsg::mute); // it would write of each odd byte to standard error
         Exiv2::XmpParser::initialize(); // at its first use otherwise, and not safe there on several threads
+#if !EXIV2_TEST_VERSION(0, 28, 0) // from there on HEIF is read without being asked for
         Exiv2::enableBMFF();
+#endif
     });
 }
 
@@ -34,12 +37,21 @@ static std::optional<QString> string(const Exiv2::ExifData &exif, const char *ke
     return decoder.hasError() ? QString::fromLatin1(bytes) : text;
 }
 
+static std::int64_t integer(const Exiv2::Exifdatum &field)
+{
+#if EXIV2_TEST_VERSION(0, 28, 0)
+    return field.toInt64();
+#else
+    return field.toLong();
+#endif
+}
+
 static int orientationTag(const Exiv2::ExifData &exif)
 {
     const auto field = exif.findKey(Exiv2::ExifKey("Exif.Image.Orientation"));
     if (field == exif.end() || field->count() == 0)
         return 1;
-    const long value = field->toLong();
+    const std::int64_t value = integer(*field);
     return value >= 1 && value <= 8 ? static_cast<int>(value) : 1;
 }
 
