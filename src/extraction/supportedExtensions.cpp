@@ -12,6 +12,7 @@ using Extensions = std::vector<std::string_view>;
 template <typename... Lists> static Extensions sorted(const Lists &...lists)
 {
     Extensions all;
+    all.reserve((lists.size() + ...));
     (all.insert(all.end(), lists.begin(), lists.end()), ...);
     std::sort(all.begin(), all.end());
     return all;

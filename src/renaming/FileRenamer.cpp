@@ -99,7 +99,7 @@ FileRenamer::Outcome FileRenamer::Group::carryOut(const Step &step)
         return tl::unexpected(*failure);
     const auto *planned = std::get_if<PlannedMove>(&step.plan);
     if (!planned && step.job->undoneDate)
-        m_outcomes.push_back(UndoReported { step.job->filePath->native(), *step.job->undoneDate, step.date });
+        m_outcomes.emplace_back(UndoReported { step.job->filePath->native(), *step.job->undoneDate, step.date });
     if (!planned)
         return *step.job->filePath;
     Outcome outcome = move(step, *planned);
@@ -108,10 +108,10 @@ FileRenamer::Outcome FileRenamer::Group::carryOut(const Step &step)
         if (taken && taken->identity == planned->file.identity) // a second name that could not be taken back
             m_renamer.m_journal.settleNextTime();
         else
-            m_outcomes.push_back(RenameDropped { step.id });
+            m_outcomes.emplace_back(RenameDropped { step.id });
         return outcome;
     }
-    m_outcomes.push_back(RenameDone { step.id });
+    m_outcomes.emplace_back(RenameDone { step.id });
     if (!step.job->undoneDate)
         m_renamer.m_unloggedDates.emplace(std::pair { step.job->filePath->native(), outcome->native() }, step.date);
     return outcome;
@@ -149,7 +149,7 @@ FileRenamer::Group::End FileRenamer::Group::run(std::span<const RenameJob> jobs,
     }
     for (std::size_t left = end.tried; left < m_steps.size(); ++left) {
         if (std::holds_alternative<PlannedMove>(m_steps[left].plan))
-            m_outcomes.push_back(RenameDropped { m_steps[left].id });
+            m_outcomes.emplace_back(RenameDropped { m_steps[left].id });
     }
     finish();
     return end;

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <array>
 #include <fcntl.h>
-#include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -99,13 +98,15 @@ static Result<void, SystemError> syncFolder(const FileDescriptor &folder)
     return {};
 }
 
-/// The mode of the file to be replaced; nothing when there is none yet.
-static Result<std::optional<mode_t>, SystemError> modeOfRegularFile(const path &file)
+constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
+
+/// The mode of the file to be replaced, or that of a new file when there is none yet.
+static Result<mode_t, SystemError> modeOfRegularFile(const path &file)
 {
     struct stat status { };
     if (::lstat(file.c_str(), &status) != 0) {
         if (errno == ENOENT)
-            return std::optional<mode_t> {};
+            return ownerOnly;
         return latestError();
     }
     if (S_ISDIR(status.st_mode))
@@ -115,7 +116,7 @@ static Result<std::optional<mode_t>, SystemError> modeOfRegularFile(const path &
     // The folder's rights alone would let a rename replace a file that its owner has made read-only.
     if (::faccessat(AT_FDCWD, file.c_str(), W_OK, AT_EACCESS) != 0)
         return latestError();
-    return std::optional<mode_t>(status.st_mode & 07777);
+    return status.st_mode & 07777;
 }
 
 static bool isSameFile(const FileDescriptor &file, const path &name)
@@ -167,8 +168,7 @@ Result<void, SystemError> replaceFile(const path &link, QByteArrayView content, 
     }));
     if (!file.isOpen())
         return latestError();
-    constexpr mode_t ownerOnly = S_IRUSR | S_IWUSR;
-    const mode_t newMode = mode == ReplacedMode::Kept ? oldMode->value_or(ownerOnly) : ownerOnly;
+    const mode_t newMode = mode == ReplacedMode::Kept ? *oldMode : ownerOnly;
     if (const auto renamed = fillAndRename(file, temporary, *destination, content, newMode); !renamed) {
         ::unlink(temporary.c_str());
         return renamed;
