@@ -156,7 +156,6 @@ void RenamerViewModelTest::servesAdmissionsInTurnUntilCleared()
         test.make("big/" + std::to_string(i) + ".txt");
     auto first = test.batch->addFiles({ test.folder / "big" }, true);
     auto second = test.batch->addFiles({ test.make("late.txt") }, true);
-    QVERIFY(test.batch->files().empty()); // nothing happens before the event loop goes on
     QCoro::waitFor(second);
     QVERIFY(first.isReady());
     QCOMPARE(test.batch->files().size(), 3001U);
