@@ -51,7 +51,8 @@ static bool isLoaded(const QByteArray &library)
 
 void SecretServiceStoreTest::initTestCase()
 {
-    QVERIFY2(!isLoaded("libsecret") && !isLoaded("libgio"), "a start must not pay for the keyring's libraries");
+    // Its GLib libraries are no measure: Qt Network of Debian 13 brings them, and so the tests' own support.
+    QVERIFY2(!isLoaded("libsecret"), "a start must not pay for the keyring's libraries");
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
     (void)wait(m_store.load(u"a"_s));
     QVERIFY2(isLoaded("libsecret"), "the module was not found, so nothing below would test it");

@@ -4,6 +4,7 @@
 
 #include "extraction/office/decodeUtf8.h"
 #include "extraction/office/parseXML.h"
+#include <filesystem>
 #include <QUrl>
 #include <vector>
 
@@ -61,8 +62,11 @@ void MainPartFinder::startElement(std::string_view name, const XMLAttributes &at
         return;
     const QUrl root(u"file:///"_s);
     const QUrl part = root.resolved(QUrl(*target));
-    if (root.isParentOf(part))
-        m_partName = part.path(QUrl::FullyDecoded).mid(1);
+    if (!root.isParentOf(part))
+        return;
+    // A way that leads above the root stays there (RFC 3986, 5.2.4); Qt 6.8 leaves its dots in an address of a file.
+    const std::filesystem::path path(part.path(QUrl::FullyDecoded).toStdString());
+    m_partName = QString::fromStdString(path.lexically_normal().native()).mid(1);
 }
 
 bool WordTextImporter::isLeftOut(std::string_view localName)

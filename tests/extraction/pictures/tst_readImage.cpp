@@ -130,8 +130,9 @@ void ReadImageTest::showsWhatQtWrote_data()
     red.fill(Qt::red);
     QTest::newRow("webp, first frame is small")
         << withSmallFirstFrame(saved(red, "webp", 100), red.size()) << u"40x24 white white white red"_s;
-    QTest::newRow("grey jpeg") << saved(image.convertToFormat(QImage::Format_Grayscale8), "jpeg")
-                               << u"40x24 grey #dcdcdc #464646 white"_s;
+    const QImage grey = image.convertToFormat(QImage::Format_Grayscale8);
+    const QString greyOfBlue = grey.pixelColor(5, 20).name(); // differs between versions of Qt
+    QTest::newRow("grey jpeg") << saved(grey, "jpeg") << u"40x24 grey #dcdcdc %1 white"_s.arg(greyOfBlue);
     const QByteArray png = saved(quarters({ 32, 32 }), "png");
     const auto word = [](qsizetype value) {
         QByteArray bytes(4, '\0');
