@@ -230,6 +230,9 @@ QCoro::Task<Result<QString, NameSuggestionError>> ClaudeNameSuggester::ask(Sugge
     QNetworkReply *const reply = post(body, key);
     ++m_callsInFlight;
     const HttpAnswer answer = co_await receive(reply, limits);
+    // Qt 6.8 may give the next call the connection of one that has just failed.
+    if (reply->error() != QNetworkReply::NoError)
+        reply->manager()->clearConnectionCache();
     if (self)
         --m_callsInFlight;
     reply->deleteLater(); // there still, since the manager waits for the calls in flight
