@@ -27,6 +27,18 @@ NAMED = {"push button", "check box", "radio button", "combo box", "text", "entry
 NOT_AVAILABLE = "Not available now"  # since Qt 6.4 says of every item that it is enabled
 
 
+read_role_name = Atspi.Accessible.get_role_name
+
+
+def get_role_name(node):
+    """Of buttons, what they were called before at-spi2-core 2.55."""
+    name = read_role_name(node)
+    return "push button" if name == "button" else name
+
+
+Atspi.Accessible.get_role_name = get_role_name
+
+
 def until(ask, what):
     """Asks until the answer is true, which may take as long as PATIENCE."""
     end = time.monotonic() + PATIENCE
