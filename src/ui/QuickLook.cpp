@@ -102,7 +102,7 @@ void QuickLook::clearContent()
     m_isReading = false;
     m_picture = {};
     m_text.clear();
-    m_nothing = {};
+    m_nothing.emplace<std::monostate>();
 }
 
 QCoro::Task<void> QuickLook::read()
