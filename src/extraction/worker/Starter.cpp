@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <csignal>
+#include <cstdint>
 #include <numeric>
 #include <poll.h>
 #include <sys/prctl.h>
@@ -146,13 +147,12 @@ bool Starter::start(const WaitingJob &job)
         startWorker(job);
         return true;
     }
-    Branch *const branch = branchFor(libraries);
+    Branch *const branch = branchFor(job.job, libraries);
     return !branch || handOver(job, *branch); // without one the answer socket ends here
 }
 
 void Starter::startWorker(const WaitingJob &job)
 {
-    m_performer.prepare(job.job);
     const pid_t starter = ::getpid();
     const pid_t worker = ::fork();
     if (worker == 0)
@@ -172,15 +172,23 @@ bool Starter::handOver(const WaitingJob &job, Branch &branch)
         .has_value();
 }
 
-Starter::Branch *Starter::branchFor(std::string_view libraries)
+Starter::Branch *Starter::branchFor(const WorkerJob &job, std::string_view libraries)
 {
     const auto branch = std::find_if(
         m_branches.begin(), m_branches.end(), [libraries](const Branch &each) { return each.libraries == libraries; });
-    return branch == m_branches.end() ? makeBranch(libraries) : &*branch;
+    return branch == m_branches.end() ? makeBranch(job, libraries) : &*branch;
+}
+
+/// Has what malloc takes next begin where a large page can: in pages of 4 KiB, each costs every worker a fault.
+static void alignHeap()
+{
+    constexpr std::uintptr_t largePage = std::uintptr_t { 2 } << 20;
+    const auto end = reinterpret_cast<std::uintptr_t>(::sbrk(0));
+    ::sbrk(static_cast<std::intptr_t>((largePage - end % largePage) % largePage)); // malloc goes on behind it
 }
 
 /// Null where it cannot be made, and in the branch itself.
-Starter::Branch *Starter::makeBranch(std::string_view libraries)
+Starter::Branch *Starter::makeBranch(const WorkerJob &job, std::string_view libraries)
 {
     std::array<int, 2> ends {};
     if (::socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0)
@@ -189,8 +197,11 @@ Starter::Branch *Starter::makeBranch(std::string_view libraries)
     FileDescriptor theirs(ends[1]);
     const pid_t starter = ::getpid();
     const pid_t process = ::fork();
-    if (process == 0)
+    if (process == 0) {
         becomeBranch(std::move(theirs), libraries, starter);
+        m_performer.prepare(job);
+        alignHeap();
+    }
     if (process <= 0)
         return nullptr;
     return &m_branches.emplace_back(Branch { std::string(libraries), process, std::move(ours), {} });

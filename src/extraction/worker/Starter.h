@@ -60,8 +60,8 @@ private:
     [[nodiscard]] std::size_t workerCount() const;
     void startWorker(const WaitingJob &job);
     [[noreturn]] void work(const WaitingJob &job, pid_t starter);
-    [[nodiscard]] Branch *branchFor(std::string_view libraries);
-    [[nodiscard]] Branch *makeBranch(std::string_view libraries);
+    [[nodiscard]] Branch *branchFor(const WorkerJob &job, std::string_view libraries);
+    [[nodiscard]] Branch *makeBranch(const WorkerJob &job, std::string_view libraries);
     void becomeBranch(FileDescriptor control, std::string_view libraries, pid_t starter);
     void endAll();
 
