@@ -20,6 +20,8 @@ namespace Varlo {
 [[nodiscard]] ExitCode run(const FoldersAddCommand &command, Session &session);
 [[nodiscard]] ExitCode run(const FoldersRemoveCommand &command, Session &session);
 [[nodiscard]] ExitCode run(const ExtractCommand &command, Session &session);
+/// With another way of reading.
+[[nodiscard]] ExitCode run(const ExtractCommand &command, Terminal &terminal, ContentReader &reader);
 [[nodiscard]] ExitCode run(const TemplatesListCommand &command, Session &session);
 [[nodiscard]] ExitCode run(const TemplatesAddCommand &command, Session &session);
 [[nodiscard]] ExitCode run(const TemplatesEditCommand &command, Session &session);

@@ -89,11 +89,11 @@ namespace {
 /// Reads five files at a time; people get the results in the order of their arguments, scripts as they complete.
 class ExtractRun {
 public:
-    ExtractRun(const ExtractCommand &command, Session &session)
+    ExtractRun(const ExtractCommand &command, Terminal &terminal, ContentReader &reader)
         : m_json(command.json)
         , m_imageFolder(command.imageFolder ? std::optional(resolvedArgument(*command.imageFolder)) : std::nullopt)
-        , m_terminal(session.terminal())
-        , m_reader(session.reader())
+        , m_terminal(terminal)
+        , m_reader(reader)
     {
         for (const std::filesystem::path &file : command.files)
             m_paths.push_back(resolvedArgument(file));
@@ -194,17 +194,22 @@ private:
 
 ExitCode run(const ExtractCommand &command, Session &session)
 {
+    return run(command, session.terminal(), session.reader());
+}
+
+ExitCode run(const ExtractCommand &command, Terminal &terminal, ContentReader &reader)
+{
     std::signal(SIGINT, [](int) { ::_exit(static_cast<int>(ExitCode::Interrupted)); });
     if (command.imageFolder) {
         std::error_code error;
         std::filesystem::create_directories(*command.imageFolder, error);
         if (error) {
             const QString message = SystemError { error.value() }.description();
-            session.terminal().complain(visibleText(*command.imageFolder) + u": "_s + message);
+            terminal.complain(visibleText(*command.imageFolder) + u": "_s + message);
             return ExitCode::SomeFailed;
         }
     }
-    ExtractRun extraction(command, session);
+    ExtractRun extraction(command, terminal, reader);
     QCoro::waitFor(extraction.readAll());
     return extraction.hasFailures() ? ExitCode::SomeFailed : ExitCode::Success;
 }
