@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick
-import QtQuick.Window
 import Varlo
 
 /// A document that gets its label, between two loose sheets, which move apart while files are dragged over the window.

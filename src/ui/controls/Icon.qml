@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick
-import QtQuick.Window
 import Varlo
 
 /// One of the line icons, tinted.

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick
 import QtQuick.Templates as T
-import QtQuick.Window
 import Varlo
 
 /// What may be taller than its place. Follows the keyboard.

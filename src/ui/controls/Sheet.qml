@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick
 import QtQuick.Templates as T
-import QtQuick.Window
 import Varlo
 
 /// A white sheet over the window, never larger than the window less 32. Esc closes it, and the focus goes back.

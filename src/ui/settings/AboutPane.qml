@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Window
 import Varlo
 
 /// What this program is, where more is to be had, and the way to the API key.

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Window
 import Varlo
 
 /// Every setting, in six tabs. The one shown last is shown again; whoever opens the sheet at another one writes its id to
