@@ -7,6 +7,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <QClipboard>
 #include <QGuiApplication>
 #include <QPalette>
 #include <QQuickWindow>
@@ -89,6 +90,17 @@ static void serve(Application &varlo, SingleInstance &instance)
     varlo.followDesktop(instance.bus());
 }
 
+/// At once where it can: objects and the tables of types would only be taken apart one by one. What was copied here is
+/// handed to the desktop by Qt at its own end, and nothing else is left to do then.
+static int end(int status)
+{
+#ifndef __SANITIZE_ADDRESS__ // which looks for leaks after main()
+    if (!QGuiApplication::clipboard()->ownsClipboard() && !QGuiApplication::clipboard()->ownsSelection())
+        std::_Exit(status);
+#endif
+    return status;
+}
+
 static int run(int argumentCount, char **arguments)
 {
 #ifndef __SANITIZE_ADDRESS__ // whose leak check has to look into the process
@@ -128,15 +140,7 @@ static int run(int argumentCount, char **arguments)
         return 1;
     }
     quitAtRows(varlo);
-    return QGuiApplication::exec();
+    return end(QGuiApplication::exec());
 }
 
-int main(int argumentCount, char **arguments)
-{
-    const int status = run(argumentCount, arguments);
-#ifdef __SANITIZE_ADDRESS__ // which looks for leaks after main()
-    return status;
-#else
-    std::_Exit(status); // else Qt's libraries take their tables apart, type by type
-#endif
-}
+int main(int argumentCount, char **arguments) { return run(argumentCount, arguments); }
