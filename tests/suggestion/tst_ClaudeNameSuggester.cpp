@@ -304,7 +304,7 @@ void ClaudeNameSuggesterTest::endsAtTheTimeLimit()
     QVERIFY(server.listen());
     const auto suggester = suggesterFor(server.address(), testKey, { .wholeCall = 300ms });
     QCOMPARE(failureText(suggest(*suggester)), u"The model did not answer within 1 seconds."_s);
-    QCOMPARE(server.requests().size(), 1);
+    QVERIFY(server.requests().size() <= 1); // a busy machine may not get to the server in that time
 }
 
 void ClaudeNameSuggesterTest::stopsReadingAtTheSizeLimit_data()
