@@ -18,6 +18,9 @@ import urllib.parse
 
 import dbus
 import dbusmock
+import dbus.lowlevel
+import dbus.mainloop.glib
+from gi.repository import GLib
 
 VARLO = os.path.abspath(sys.argv[1])
 PATIENCE = 30
@@ -217,6 +220,30 @@ class NotificationsTest(dbusmock.DBusTestCase):
         self.assertEqual(self.notification(2)[:2], (0, "1 name ready"))
         self.write("scan5.txt")
         self.assertEqual(self.notification(3)[:2], (self.shown_id(), "2 names ready"))
+
+    def test_names_reach_a_window_that_the_bus_cannot_start(self):
+        self.start_desktop()
+        path = self.write("scan1.txt")
+        self.environment["QT_QPA_PLATFORM"] = "none"  # the window that the command starts ends and says so
+        process = self.varlo("watch", "--notify", "--offline", "--include-existing", str(self.files))
+        text = self.notification(1)[2]
+        self.choose("review")
+        until(lambda: "qt.qpa.plugin" in process.stderr.readline(), "a window of the command")
+        late = dbus.bus.BusConnection(os.environ["DBUS_SESSION_BUS_ADDRESS"],
+                                      mainloop=dbus.mainloop.glib.DBusGMainLoop())
+        self.addCleanup(late.close)
+        opened = []
+
+        def take(_, message):
+            if message.get_member() == "Open":
+                opened.append(message.get_args_list())
+            return dbus.lowlevel.HANDLER_RESULT_NOT_YET_HANDLED
+        late.add_message_filter(take)
+        late.request_name("com.varlo.Varlo")
+        uris, platform_data = until(lambda: (GLib.MainContext.default().iteration(False), opened)[1], "a second call")[0]
+        self.assertEqual([urllib.parse.unquote_to_bytes(str(uri)) for uri in uris], [b"file://" + path])
+        self.assertIn(json.loads(platform_data["com.varlo.suggestions"])[0]["name"], text)
+        self.assertEqual(platform_data["activation-token"], "token-1")
 
     def test_watch_tells_why_there_are_no_names(self):
         self.start_desktop()
