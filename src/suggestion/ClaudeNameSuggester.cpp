@@ -141,6 +141,16 @@ static bool isTransportError(const QNetworkReply &reply, int httpStatus)
     return httpStatus == 0 || httpStatus == 200 || reply.error() < QNetworkReply::ProxyConnectionRefusedError;
 }
 
+static int statusOf(const QNetworkReply &reply)
+{
+    return reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+}
+
+static bool isConnectionLost(const QNetworkReply &reply, const HttpAnswer &answer)
+{
+    return answer.cutOff || isTransportError(reply, statusOf(reply));
+}
+
 static Message transportErrorText(const QNetworkReply &reply)
 {
     if (reply.error() == QNetworkReply::ContentReSendError) // see OneTimeBody; Qt's text is "Unknown error"
@@ -157,7 +167,7 @@ static Result<QString, NameSuggestionError> decodeAnswer(
             QT_TRANSLATE_NOOP("ClaudeNameSuggester", "The model did not answer within %1 seconds."),
             { QString::number(std::chrono::ceil<std::chrono::seconds>(limits.wholeCall).count()) } });
     }
-    const int httpStatus = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    const int httpStatus = statusOf(reply);
     if (!answer.cutOff && isTransportError(reply, httpStatus))
         return transportFailure(transportErrorText(reply));
     if (httpStatus == 200 && answer.body.size() > limits.replyBytes)
@@ -178,36 +188,34 @@ ClaudeNameSuggester::ClaudeNameSuggester(
 
 ClaudeNameSuggester::~ClaudeNameSuggester()
 {
-    if (!m_network)
-        return;
-    if (m_callsInFlight == 0) {
-        delete m_network;
-        return;
-    }
-    // Each call in flight waits for its reply's finished(), which arrives through the event loop: the replies have to
-    // be there still when it does.
-    const auto replies = m_network->findChildren<QNetworkReply *>();
+    // Each call in flight waits for its reply's finished(), which arrives through the event loop.
+    const std::set<QNetworkReply *> replies = m_awaitedReplies;
     for (QNetworkReply *reply : replies)
         reply->abort();
-    m_network->deleteLater();
+    QNetworkAccessManager *const idle = m_network.use_count() == 1 ? m_network.get() : nullptr;
+    m_network.reset();
+    if (idle) // which no event loop may come to delete
+        QCoreApplication::sendPostedEvents(idle, QEvent::DeferredDelete);
 }
 
-QNetworkAccessManager &ClaudeNameSuggester::network()
+std::shared_ptr<QNetworkAccessManager> ClaudeNameSuggester::network()
 {
-    if (!m_network) {
-        m_network = new QNetworkAccessManager;
-        if (m_endpoint.isLoopback())
-            m_network->setProxy(QNetworkProxy::NoProxy);
-        else
-            m_network->setProxyFactory(new SystemProxies); // which the manager then owns
-    }
-    return *m_network;
+    if (m_network)
+        return m_network;
+    // Whoever is the last to let go of it may be called by one of its replies.
+    m_network.reset(new QNetworkAccessManager, [](QNetworkAccessManager *network) { network->deleteLater(); });
+    if (m_endpoint.isLoopback())
+        m_network->setProxy(QNetworkProxy::NoProxy);
+    else
+        m_network->setProxyFactory(new SystemProxies); // which the manager then owns
+    return m_network;
 }
 
-QNetworkReply *ClaudeNameSuggester::post(const QByteArray &body, const QByteArray &key)
+QNetworkReply *ClaudeNameSuggester::post(
+    QNetworkAccessManager &network, const QByteArray &body, const QByteArray &key) const
 {
     auto *device = new OneTimeBody(body);
-    QNetworkReply *reply = network().post(messagesRequest(m_endpoint.messagesUrl(), key), device);
+    QNetworkReply *reply = network.post(messagesRequest(m_endpoint.messagesUrl(), key), device);
     device->setParent(reply);
     // Without this, Qt reads on into its own memory while the event loop is busy.
     reply->setReadBufferSize(m_limits.replyBytes);
@@ -227,15 +235,18 @@ QCoro::Task<Result<QString, NameSuggestionError>> ClaudeNameSuggester::ask(Sugge
     if (!self)
         co_return cancelled();
     const RequestLimits limits = m_limits;
-    QNetworkReply *const reply = post(body, key);
-    ++m_callsInFlight;
+    const std::shared_ptr<QNetworkAccessManager> network = this->network();
+    QNetworkReply *const reply = post(*network, body, key);
+    m_awaitedReplies.insert(reply);
     const HttpAnswer answer = co_await receive(reply, limits);
-    // Qt 6.8 may give the next call the connection of one that has just failed.
-    if (reply->error() != QNetworkReply::NoError)
-        reply->manager()->clearConnectionCache();
-    if (self)
-        --m_callsInFlight;
-    reply->deleteLater(); // there still, since the manager waits for the calls in flight
+    reply->deleteLater();
+    if (self) {
+        m_awaitedReplies.erase(reply);
+        // Qt 6.8 may give the next call the connection of one that has just failed. To clear the manager's connections
+        // would silence the other calls, which keep it.
+        if (m_network == network && isConnectionLost(*reply, answer))
+            m_network.reset();
+    }
     co_return decodeAnswer(*reply, answer, limits);
 }
 

@@ -9,6 +9,7 @@
 #include <chrono>
 #include <memory>
 #include <QObject>
+#include <set>
 
 class QNetworkAccessManager;
 class QNetworkReply;
@@ -38,15 +39,16 @@ public:
 
 private:
     [[nodiscard]] QCoro::Task<Result<QString, NameSuggestionError>> ask(SuggestionRequest request, QByteArray key);
-    [[nodiscard]] QNetworkReply *post(const QByteArray &body, const QByteArray &key);
-    [[nodiscard]] QNetworkAccessManager &network();
+    [[nodiscard]] QNetworkReply *post(
+        QNetworkAccessManager &network, const QByteArray &body, const QByteArray &key) const;
+    [[nodiscard]] std::shared_ptr<QNetworkAccessManager> network();
 
     Endpoint m_endpoint;
     QString m_model;
     KeyLoader m_loadKey;
     RequestLimits m_limits;
-    QNetworkAccessManager *m_network = nullptr; // ours; it outlives this object by the calls in flight
-    int m_callsInFlight = 0;
+    std::shared_ptr<QNetworkAccessManager> m_network; // each call in flight holds the one that it began with
+    std::set<QNetworkReply *> m_awaitedReplies;
 };
 
 } // namespace Varlo

@@ -88,6 +88,8 @@ private slots:
     void asksForTheKeyEachTime();
     void keepsNoCookiesAndNoCredentials();
     void sharesConnections();
+    void failsAlone_data();
+    void failsAlone();
     void endsWhenDestroyed();
     void usesProxies_data();
     void usesProxies();
@@ -490,6 +492,35 @@ void ClaudeNameSuggesterTest::sharesConnections()
     QCOMPARE(named, 1000);
     QCOMPARE(server.requests().size(), 1000);
     QVERIFY2(server.connectionCount() <= 5, QByteArray::number(server.connectionCount()).constData());
+}
+
+void ClaudeNameSuggesterTest::failsAlone_data()
+{
+    QTest::addColumn<Server::Reply>("failure");
+    QTest::newRow("refused") << Server::answer(529, "{}");
+    QTest::newRow("connection closed") << Server::raw("HTTP/1.1 200 OK\r\nContent-", true);
+    QTest::newRow("too long") << Server::Reply { .bytes = "HTTP/1.1 200 OK\r\nContent-Length: 314572800\r\n\r\n",
+        .filler = QByteArray(1 << 16, ' '),
+        .fillerCount = 4800,
+        .closes = true };
+}
+
+void ClaudeNameSuggesterTest::failsAlone()
+{
+    QFETCH(Server::Reply, failure);
+    Server server;
+    QVERIFY(server.listen());
+    Server::Reply late = Server::text(u"Name"_s);
+    late.delay = 500ms;
+    server.setReplies({ late, failure, Server::text(u"Name"_s) });
+    const auto suggester = suggesterFor(server.address(), testKey, { .wholeCall = 20s });
+    QCoro::Task<Suggestion> call = suggester->suggestName(textRequest());
+    QTRY_COMPARE(server.requests().size(), 1);
+    QVERIFY(!suggest(*suggester));
+    const Suggestion waitedFor = QCoro::waitFor(call);
+    QVERIFY2(waitedFor, qPrintable(failureText(waitedFor)));
+    QVERIFY(suggest(*suggester));
+    QCOMPARE(server.requests().size(), 3);
 }
 
 void ClaudeNameSuggesterTest::endsWhenDestroyed()
