@@ -20,7 +20,7 @@ TEMPLATE = {"id": "reports", "name": "Client reports", "fields": ["date", "title
 class EffectsTest(WindowTest):
     def seen(self):
         return [(node.get_name(), node.get_description(), *(has_state(node, state) for state in STATES))
-                for node in below(self.frame)], self.preferences(), self.names(), self.opened.read_text()
+                for node in self.all_nodes()], self.preferences(), self.names(), self.opened.read_text()
 
     def buttons(self, place):
         """That can be pressed and were not chosen already, by role and name."""
@@ -31,9 +31,11 @@ class EffectsTest(WindowTest):
 
     def close_everything(self):
         def is_closed():
-            if not [node for node in below(self.frame) if node.get_role_name() == "dialog"]:
+            if not [node for node in self.all_nodes() if node.get_role_name() == "dialog"]:
+                self.focus()
                 return True
-            self.keys("Escape")
+            for window in self.x_windows():
+                subprocess.run(["xdotool", "windowfocus", window, "key", "Escape"], check=False)  # it may be gone by now
             return False
         until(is_closed, "the bare window")
 

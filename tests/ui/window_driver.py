@@ -160,9 +160,12 @@ class WindowTest(unittest.TestCase):
                 return application.get_child_at_index(0)
         return None
 
+    def all_nodes(self):
+        """In every window of the program, as Qt 6.8 shows its own choosers in one beside ours."""
+        return below(self.frame.get_parent())
+
     def nodes(self, name, role=None, within=None):
-        """Of every window of the program, as Qt 6.8 shows its own choosers in one beside ours."""
-        return [node for node in below(within or self.frame.get_parent())
+        return [node for node in (below(within) if within else self.all_nodes())
                 if node.get_name() == name and role in (None, node.get_role_name())]
 
     def find(self, name, role=None, within=None):
@@ -224,9 +227,11 @@ class WindowTest(unittest.TestCase):
 
     def focus(self):
         """Gives the keyboard to the window, which has no window manager to do it."""
-        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(self.window.pid)],
-                               capture_output=True, text=True, check=True).stdout.split()
-        subprocess.run(["xdotool", "windowfocus", "--sync", found[-1]], check=True)
+        subprocess.run(["xdotool", "windowfocus", "--sync", self.x_windows()[-1]], check=True)
+
+    def x_windows(self):
+        return subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(self.window.pid)],
+                              capture_output=True, text=True, check=True).stdout.split()
 
     def focused_name(self):
         nodes = [node for node in below(self.frame) if has_state(node, Atspi.StateType.FOCUSED)]
