@@ -36,7 +36,6 @@ ColumnLayout {
             anchors { fill: parent; margins: 10; leftMargin: 12; rightMargin: 12 }
             spacing: 3
             RowLayout {
-                Icon { visible: !preview.shown; name: "sparkles"; size: 15; color: Theme.ink3 }
                 Label {
                     Layout.fillWidth: true
                     text: preview.shown ? qsTr("Preview") : qsTr("Default settings")

@@ -261,6 +261,13 @@ static void openPicker(Stage &stage, const char *type)
 }
 
 /// The settings at a tab, over a window in use.
+static void addOwnTemplate(Stage &stage)
+{
+    const NameTemplate reports { u"reports"_s, u"Client reports"_s,
+        { TemplateField::Date, TemplateField::Vendor, TemplateField::Title } };
+    static_cast<void>(stage.templates.setTemplates(builtInTemplates() + QList { reports }));
+}
+
 static void showSettings(Stage &stage, const QString &tab)
 {
     fillForReview(stage);
@@ -268,9 +275,7 @@ static void showSettings(Stage &stage, const QString &tab)
         std::filesystem::create_directories(stage.home / folder);
         stage.access.addGrant(stage.home / folder);
     }
-    const NameTemplate reports { u"reports"_s, u"Client reports"_s,
-        { TemplateField::Date, TemplateField::Vendor, TemplateField::Title } };
-    static_cast<void>(stage.templates.setTemplates(builtInTemplates() + QList { reports }));
+    addOwnTemplate(stage);
     stage.settings->preferences()->setWriteFinderTags(true);
     stage.settings->preferences()->setSettingsSelectedTab(tab);
     static_cast<void>(stage.preferences.set(Preference::watchFolderPath, shownPath(stage.home / "Downloads")));
@@ -342,6 +347,12 @@ static const std::map<QString, std::function<void(Stage &)>> &screens()
                 fillForReview(stage);
                 stage.batch.setTemplateId(u"invoice"_s);
                 QCoro::waitFor(stage.batch.suggestAll());
+                openPicker(stage, "TemplatePicker");
+            } },
+        { u"popover-template-default"_s,
+            [](Stage &stage) {
+                addOwnTemplate(stage);
+                fillForReview(stage);
                 openPicker(stage, "TemplatePicker");
             } },
         { u"main-hostile"_s,
