@@ -31,7 +31,8 @@ static std::optional<SuggestedFile> suggestedFile(const std::filesystem::path &p
     file.identity.inode = entry.value("inode"_L1).toString().toULongLong(&hasInode);
     if (!hasDevice || !hasInode || file.name.isEmpty())
         return {};
-    for (const QJsonValue &tag : entry.value("tags"_L1).toArray())
+    const QJsonArray tags = entry.value("tags"_L1).toArray();
+    for (const QJsonValueConstRef tag : tags)
         file.tags.append(tag.toString());
     return file;
 }
