@@ -35,7 +35,7 @@ static bool isContentBlock(const QJsonValue &block)
 
 static std::optional<QString> firstText(const QJsonArray &blocks)
 {
-    for (const QJsonValue &block : blocks) {
+    for (const QJsonValueConstRef block : blocks) {
         if (block["type"_L1] != "text"_L1)
             continue;
         const QJsonValue text = block["text"_L1];

@@ -68,9 +68,7 @@ int letterheadStart(const Reading &reading)
         else if (label)
             index = label->end;
         else if (numberWords.contains(words[index].folded) || words[index].hasDigit || reading.isDateAt(index)
-            || reading.isAmountAt(index))
-            ++index;
-        else if (!words[index].isCapitalised || beginsPhrase(words, index))
+            || reading.isAmountAt(index) || !words[index].isCapitalised || beginsPhrase(words, index))
             ++index;
         else
             return index;
