@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick
 import QtQuick.Templates as T
-import Varlo
 
 /// What opens over the main window, each made when it is first asked for.
 Item {

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick
-import Varlo
 
 /// What a choice is made of that is no button to assistive technology: Qt Quick's own buttons tell it that they are
 /// buttons, whatever role they are given. Whoever uses it sets Accessible.role and Accessible.name.

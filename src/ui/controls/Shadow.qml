@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick
-import Varlo
 
 /// A soft shadow below a rounded rectangle of its own size, drawn once as a few outlines; no live effect.
 Item {

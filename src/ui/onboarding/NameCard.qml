@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick
-import QtQuick.Layouts
 import Varlo
 
 /// A file of the introduction's picture: under the name it had, or under the one that Varlo gave it.
