@@ -98,7 +98,9 @@ class WindowTest(unittest.TestCase):
         if self.window:
             self.stop()
         self.stderr.seek(0)
-        self.assertEqual(self.stderr.read(), "")
+        # Qt 6.8 says so when what a test has just asked about is gone by then.
+        late = "qt.accessibility.atspi: Could not find accessible on path: "
+        self.assertEqual([line for line in self.stderr if not line.startswith(late)], [])
 
     def write(self, name, text="A text that is long enough to be named."):
         path = self.files / name
