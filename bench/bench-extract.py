@@ -4,7 +4,7 @@
 """What reading a plain text costs beside `cat`.
 
 Run as: bench-extract.py [--size MIB] [--pairs N] COMMAND...
-COMMAND is what reads the file whose path is added to it: "varlo extract", or "extract-in-process extract" of this folder.
+COMMAND is what reads the file whose path is added to it: "varlo extract", or "extract-in-process extract".
 
 Each file is read by both, one right after the other and in alternating order, so that whatever else the machine does
 hits both alike. Printed is the median over the pairs of COMMAND's processor time divided by cat's, and COMMAND's peak
