@@ -1,7 +1,10 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
+// GLib's headers use "signals" as a name.
+#define QT_NO_KEYWORDS
 #include "platform/linux/SecretServiceStore.h"
 
+#include <gio/gio.h>
 #include <QFile>
 #include <QLocalServer>
 #include <QProcess>
@@ -19,13 +22,14 @@ template <typename Value> static Value wait(QCoro::Task<Value> &&task) { return 
 /// Runs against gnome-keyring's daemon on a bus that starts no services by itself.
 class SecretServiceStoreTest : public QObject {
     Q_OBJECT
-private slots:
+private Q_SLOTS:
     void initTestCase();
     void init();
     void cleanup();
     void keepsOneItemAnAccount();
     void readsNoKeyFromBytesThatAreNotText();
     void neverPromptsToRead();
+    void followsTheBus();
     void saysUnavailable_data();
     void saysUnavailable();
 
@@ -181,6 +185,20 @@ void SecretServiceStoreTest::neverPromptsToRead()
     QVERIFY(wait(m_store.save(u"http://[::1]:1"_s, u"new"_s)) == tl::make_unexpected(Failure::Locked));
     QVERIFY(wait(m_store.remove(u"anthropic"_s)) == tl::make_unexpected(Failure::Locked));
     QCOMPARE(helper({ u"count"_s, u"anthropic"_s }), "1\n");
+}
+
+// Qt's and a desktop's plug-ins may hold GLib's shared connection, which stays closed once its bus has gone.
+void SecretServiceStoreTest::followsTheBus()
+{
+    startBus();
+    GDBusConnection *const shared = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, nullptr);
+    QVERIFY(shared);
+    g_dbus_connection_set_exit_on_close(shared, FALSE);
+    stop(m_bus);
+    startKeyring();
+    QVERIFY(wait(m_store.save(u"anthropic"_s, u"key"_s)));
+    QVERIFY(wait(m_store.load(u"anthropic"_s)) == u"key"_s);
+    g_object_unref(shared);
 }
 
 void SecretServiceStoreTest::saysUnavailable_data()

@@ -106,22 +106,48 @@ Items taken(GList *list)
     return items;
 }
 
-/// One conversation with the service.
+GObject *constructWithoutBus(GType type, guint count, GObjectConstructParam *properties)
+{
+    GObject *const object
+        = G_OBJECT_CLASS(g_type_class_peek(SECRET_TYPE_SERVICE))->constructor(type, count, properties);
+    g_object_set(object, "g-bus-type", G_BUS_TYPE_NONE, static_cast<char *>(nullptr));
+    return object;
+}
+
+/// A SecretService that takes a "g-connection". The constructor of libsecret's own always asks for the shared one.
+GType connectionServiceType()
+{
+    static const GType type = g_type_register_static_simple(
+        SECRET_TYPE_SERVICE, "VarloSecretService", sizeof(SecretServiceClass),
+        [](gpointer serviceClass, gpointer) { G_OBJECT_CLASS(serviceClass)->constructor = &constructWithoutBus; },
+        sizeof(SecretService), nullptr, G_TYPE_FLAG_NONE);
+    return type;
+}
+
+/// One conversation with the service, over a connection of its own: GLib shares one connection with the whole program
+/// and, while anything still holds that, hands it out even after its bus has gone.
 class Session {
 public:
     [[nodiscard]] bool open(milliseconds limit)
     {
-        const auto bus = m_waiting.call(limit, [](GCancellable *cancellable, GAsyncReadyCallback ready, gpointer data) {
-            g_bus_get(G_BUS_TYPE_SESSION, cancellable, ready, data);
-        });
-        m_bus.reset(g_bus_get_finish(bus.get(), nullptr));
+        const std::unique_ptr<gchar, void (*)(void *)> address(
+            g_dbus_address_get_for_bus_sync(G_BUS_TYPE_SESSION, nullptr, nullptr), &g_free);
+        if (!address)
+            return false;
+        const auto connected
+            = m_waiting.call(limit, [&](GCancellable *cancellable, GAsyncReadyCallback ready, gpointer data) {
+                  g_dbus_connection_new_for_address(address.get(),
+                      static_cast<GDBusConnectionFlags>(G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT
+                          | G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION),
+                      nullptr, cancellable, ready, data);
+              });
+        m_bus.reset(g_dbus_connection_new_for_address_finish(connected.get(), nullptr));
         if (!m_bus)
             return false;
-        // GLib would end the whole program when the bus goes away, at logout or a restart of the bus.
-        g_dbus_connection_set_exit_on_close(m_bus.get(), FALSE);
         const auto opened
-            = m_waiting.call(limit, [](GCancellable *cancellable, GAsyncReadyCallback ready, gpointer data) {
-                  secret_service_open(SECRET_TYPE_SERVICE, nullptr, SECRET_SERVICE_NONE, cancellable, ready, data);
+            = m_waiting.call(limit, [&](GCancellable *cancellable, GAsyncReadyCallback ready, gpointer data) {
+                  g_async_initable_new_async(connectionServiceType(), G_PRIORITY_DEFAULT, cancellable, ready, data,
+                      "g-connection", m_bus.get(), static_cast<char *>(nullptr));
               });
         m_service.reset(secret_service_open_finish(opened.get(), nullptr));
         return m_service != nullptr;
