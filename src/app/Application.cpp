@@ -4,9 +4,6 @@
 
 #include "app/rememberWindowSize.h"
 #include "app/WindowKeys.h"
-#include "platform/linux/FallbackSecretStore.h"
-#include "platform/linux/FileSecretStore.h"
-#include "platform/linux/SecretServiceStore.h"
 #include "ui/IconProvider.h"
 #include <chrono>
 #include <QDBusConnection>
@@ -25,12 +22,6 @@ namespace Varlo {
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
-static QString environmentValue(const Environment &environment, const char *name)
-{
-    const auto variable = environment.find(name);
-    return variable == environment.end() ? QString() : QString::fromStdString(variable->second);
-}
-
 /// Of a build that names one.
 static std::unique_ptr<UpdateChecker> updateChecker()
 {
@@ -48,12 +39,10 @@ Application::Application(const Environment &environment)
     , m_journal(m_folders.state)
     , m_renamer(m_journal, m_clock)
     , m_renameLog(m_preferences, m_renamer, m_folderAccess)
-    , m_keyring(std::make_unique<SecretServiceStore>())
-    , m_secretFile(std::make_unique<FileSecretStore>(m_folders.data / "secrets" / "keys.json"))
-    , m_secretStore(std::make_unique<FallbackSecretStore>(*m_keyring, *m_secretFile))
-    , m_suggester(m_preferences, *m_secretStore,
-          { environmentValue(environment, "VARLO_ENDPOINT"), environmentValue(environment, "VARLO_MODEL"),
-              environmentValue(environment, "VARLO_API_KEY") })
+    , m_secretStores(m_folders)
+    , m_suggester(m_preferences, m_secretStores.either,
+          { value(environment, "VARLO_ENDPOINT"), value(environment, "VARLO_MODEL"),
+              value(environment, "VARLO_API_KEY") })
     , m_reader(m_fileFlags, { {}, {}, [](const QString &warning) { qWarning("%s", qUtf8Printable(warning)); } })
     , m_batch(std::make_unique<RenamerViewModel>(RenamerViewModel::Collaborators { m_reader, m_suggester,
           m_templateStore, m_renameLog, m_renamer, m_folderAccess, nullptr, m_preferences, m_locale }))

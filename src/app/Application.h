@@ -12,6 +12,7 @@
 #include "platform/linux/QtSystemLocale.h"
 #include "platform/linux/StateFolders.h"
 #include "platform/linux/SystemClock.h"
+#include "platform/linux/UserSecretStores.h"
 #include "renaming/FileRenamer.h"
 #include "renaming/RenameJournal.h"
 #include "suggestion/ConfiguredNameSuggester.h"
@@ -66,9 +67,7 @@ private:
     RenameJournal m_journal;
     FileRenamer m_renamer;
     RenameLog m_renameLog;
-    std::unique_ptr<SecretStore> m_keyring;
-    std::unique_ptr<SecretStore> m_secretFile;
-    std::unique_ptr<SecretStore> m_secretStore;
+    UserSecretStores m_secretStores;
     ConfiguredNameSuggester m_suggester;
     IsolatedContentReader m_reader;
     std::unique_ptr<RenamerViewModel> m_batch;

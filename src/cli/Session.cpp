@@ -2,9 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Session.h"
 
-#include "platform/linux/FallbackSecretStore.h"
-#include "platform/linux/FileSecretStore.h"
-#include "platform/linux/SecretServiceStore.h"
 #include "platform/visibleText.h"
 #include "suggestion/BuiltInNamer.h"
 #include "suggestion/makeModelClient.h"
@@ -22,12 +19,6 @@ Session::Session(Environment environment)
 }
 
 Session::~Session() = default;
-
-QString Session::environmentValue(const char *name) const
-{
-    const auto variable = m_environment.find(name);
-    return variable == m_environment.end() ? QString() : QString::fromStdString(variable->second);
-}
 
 Preferences &Session::preferences()
 {
@@ -97,17 +88,14 @@ IsolatedContentReader &Session::reader()
 
 SecretStore &Session::secretStore()
 {
-    if (!m_secretStore) {
-        m_keyring = std::make_unique<SecretServiceStore>();
-        m_secretFile = std::make_unique<FileSecretStore>(m_folders.data / "secrets" / "keys.json");
-        m_secretStore = std::make_unique<FallbackSecretStore>(*m_keyring, *m_secretFile);
-    }
-    return *m_secretStore;
+    if (!m_secretStores)
+        m_secretStores = std::make_unique<UserSecretStores>(m_folders);
+    return m_secretStores->either;
 }
 
 std::optional<Endpoint> Session::endpoint(const std::optional<QString> &option)
 {
-    QString address = option.value_or(environmentValue("VARLO_ENDPOINT"));
+    QString address = option.value_or(value(m_environment, "VARLO_ENDPOINT"));
     if (address.isEmpty())
         address = preferences().string(Preference::endpoint);
     const Result<Endpoint, Endpoint::Error> endpoint = Endpoint::parse(address);
@@ -121,7 +109,7 @@ std::optional<Endpoint> Session::endpoint(const std::optional<QString> &option)
 APIKeyStore &Session::keyStore(const Endpoint &endpoint)
 {
     if (!m_keyStore)
-        m_keyStore = std::make_unique<APIKeyStore>(secretStore(), endpoint, environmentValue("VARLO_API_KEY"));
+        m_keyStore = std::make_unique<APIKeyStore>(secretStore(), endpoint, value(m_environment, "VARLO_API_KEY"));
     return *m_keyStore;
 }
 
@@ -134,7 +122,7 @@ NameSuggestionService *Session::suggester(const NamingOptions &options)
     const std::optional<Endpoint> chosen = endpoint(options.endpoint);
     if (!chosen)
         return nullptr;
-    QString model = options.model.value_or(environmentValue("VARLO_MODEL"));
+    QString model = options.model.value_or(value(m_environment, "VARLO_MODEL"));
     if (model.isEmpty())
         model = preferences().string(Preference::model);
     APIKeyStore &keys = keyStore(*chosen);

@@ -13,6 +13,7 @@
 #include "platform/linux/QtSystemLocale.h"
 #include "platform/linux/StateFolders.h"
 #include "platform/linux/SystemClock.h"
+#include "platform/linux/UserSecretStores.h"
 #include "renaming/FileRenamer.h"
 #include "renaming/FolderAccess.h"
 #include "renaming/RenameJournal.h"
@@ -65,8 +66,6 @@ public:
     void tellNotices();
 
 private:
-    [[nodiscard]] QString environmentValue(const char *name) const;
-
     Environment m_environment;
     StateFolders m_folders;
     Terminal m_terminal;
@@ -83,9 +82,7 @@ private:
     std::unique_ptr<RenameJournal> m_journal;
     std::unique_ptr<FileRenamer> m_renamer;
     std::unique_ptr<RenameLog> m_renameLog;
-    std::unique_ptr<SecretStore> m_keyring;
-    std::unique_ptr<SecretStore> m_secretFile;
-    std::unique_ptr<SecretStore> m_secretStore; // the two together
+    std::unique_ptr<UserSecretStores> m_secretStores;
     std::unique_ptr<APIKeyStore> m_keyStore;
     std::unique_ptr<NameSuggestionService> m_suggester;
     std::unique_ptr<IsolatedContentReader> m_reader;

@@ -27,6 +27,12 @@ Environment processEnvironment()
     return environment;
 }
 
+QString value(const Environment &environment, const std::string &name)
+{
+    const auto found = environment.find(name);
+    return found == environment.end() ? QString() : QString::fromStdString(found->second);
+}
+
 static path absolutePath(const Environment &environment, const char *name)
 {
     const auto found = environment.find(name);

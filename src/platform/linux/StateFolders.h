@@ -6,6 +6,7 @@
 #include "platform/SystemError.h"
 #include <filesystem>
 #include <map>
+#include <QString>
 #include <string>
 
 namespace Varlo {
@@ -13,6 +14,8 @@ namespace Varlo {
 /// The variables of an environment, as the bytes that they are.
 using Environment = std::map<std::string, std::string>;
 [[nodiscard]] Environment processEnvironment();
+/// As text; empty where the variable is not there.
+[[nodiscard]] QString value(const Environment &environment, const std::string &name);
 
 /// Where Varlo keeps its own files, after the XDG base directory rules (freedesktop.org, 0.8). Absolute paths of
 /// folders of Varlo's own, which need not exist yet.
