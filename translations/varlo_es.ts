@@ -188,32 +188,6 @@
     </message>
 </context>
 <context>
-    <name>NothingRenameableBanner</name>
-    <message>
-        <source>Nothing here Varlo can rename.</source>
-        <translation>Aquí no hay nada que Varlo pueda renombrar.</translation>
-    </message>
-    <message>
-        <source>Dismiss</source>
-        <translation>Descartar</translation>
-    </message>
-</context>
-<context>
-    <name>KeyMissingBanner</name>
-    <message>
-        <source>No API key set.</source>
-        <translation>No hay ninguna clave de API.</translation>
-    </message>
-    <message>
-        <source>Paste your own API key from your chosen provider.</source>
-        <translation>Pega tu propia clave de API del proveedor que elijas.</translation>
-    </message>
-    <message>
-        <source>Use your own provider</source>
-        <translation>Usa tu propio proveedor</translation>
-    </message>
-</context>
-<context>
     <name>Doctor</name>
     <message>
         <source>%1 cannot be written</source>
@@ -491,6 +465,9 @@
         <source>was</source>
         <translation>antes:</translation>
     </message>
+</context>
+<context>
+    <name>FileRowNaming</name>
     <message>
         <source>Rename</source>
         <translation>Renombrar</translation>
@@ -694,6 +671,21 @@
     </message>
 </context>
 <context>
+    <name>KeyMissingBanner</name>
+    <message>
+        <source>No API key set.</source>
+        <translation>No hay ninguna clave de API.</translation>
+    </message>
+    <message>
+        <source>Paste your own API key from your chosen provider.</source>
+        <translation>Pega tu propia clave de API del proveedor que elijas.</translation>
+    </message>
+    <message>
+        <source>Use your own provider</source>
+        <translation>Usa tu propio proveedor</translation>
+    </message>
+</context>
+<context>
     <name>LanguagePane</name>
     <message>
         <source>Interface language</source>
@@ -782,6 +774,17 @@
     <message>
         <source>Untitled</source>
         <translation>Sin título</translation>
+    </message>
+</context>
+<context>
+    <name>NothingRenameableBanner</name>
+    <message>
+        <source>Nothing here Varlo can rename.</source>
+        <translation>Aquí no hay nada que Varlo pueda renombrar.</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Descartar</translation>
     </message>
 </context>
 <context>

@@ -188,32 +188,6 @@
     </message>
 </context>
 <context>
-    <name>NothingRenameableBanner</name>
-    <message>
-        <source>Nothing here Varlo can rename.</source>
-        <translation>Hier is niets wat Varlo kan hernoemen.</translation>
-    </message>
-    <message>
-        <source>Dismiss</source>
-        <translation>Sluiten</translation>
-    </message>
-</context>
-<context>
-    <name>KeyMissingBanner</name>
-    <message>
-        <source>No API key set.</source>
-        <translation>Geen API-sleutel ingesteld.</translation>
-    </message>
-    <message>
-        <source>Paste your own API key from your chosen provider.</source>
-        <translation>Plak je eigen API-sleutel van de provider van je keuze.</translation>
-    </message>
-    <message>
-        <source>Use your own provider</source>
-        <translation>Gebruik je eigen provider</translation>
-    </message>
-</context>
-<context>
     <name>Doctor</name>
     <message>
         <source>%1 cannot be written</source>
@@ -491,6 +465,9 @@
         <source>was</source>
         <translation>was</translation>
     </message>
+</context>
+<context>
+    <name>FileRowNaming</name>
     <message>
         <source>Rename</source>
         <translation>Hernoemen</translation>
@@ -694,6 +671,21 @@
     </message>
 </context>
 <context>
+    <name>KeyMissingBanner</name>
+    <message>
+        <source>No API key set.</source>
+        <translation>Geen API-sleutel ingesteld.</translation>
+    </message>
+    <message>
+        <source>Paste your own API key from your chosen provider.</source>
+        <translation>Plak je eigen API-sleutel van de provider van je keuze.</translation>
+    </message>
+    <message>
+        <source>Use your own provider</source>
+        <translation>Gebruik je eigen provider</translation>
+    </message>
+</context>
+<context>
     <name>LanguagePane</name>
     <message>
         <source>Interface language</source>
@@ -782,6 +774,17 @@
     <message>
         <source>Untitled</source>
         <translation>Naamloos</translation>
+    </message>
+</context>
+<context>
+    <name>NothingRenameableBanner</name>
+    <message>
+        <source>Nothing here Varlo can rename.</source>
+        <translation>Hier is niets wat Varlo kan hernoemen.</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Sluiten</translation>
     </message>
 </context>
 <context>

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick
-import QtQuick.Layouts
 import Varlo
 
 /// Adds, clears, counts, and takes the next step: one pill is filled at a time.
@@ -45,23 +44,28 @@ Item {
         property string help
         spacing: 6
         Icon { anchors.verticalCenter: parent.verticalCenter; name: statistic.iconName; size: 16 }
-        Label {
+        Words {
             anchors.verticalCenter: parent.verticalCenter
             text: statistic.text
             size: 13
             font.weight: Font.Medium
             color: Theme.ink2
-            Accessible.ignored: true
         }
         HoverHandler { id: hover }
         Tip { text: statistic.help; isWanted: hover.hovered }
     }
 
-    RowLayout {
-        anchors { fill: parent; leftMargin: 10; rightMargin: 16 }
+    Row {
+        anchors { left: parent.left; leftMargin: 10; verticalCenter: parent.verticalCenter }
         spacing: bar.isNarrow ? 8 : 10
-        ChromeIconButton { systemName: "plus"; help: qsTr("Add Files…"); onClicked: bar.addFilesRequested() }
+        ChromeIconButton {
+            anchors.verticalCenter: parent.verticalCenter
+            systemName: "plus"
+            help: qsTr("Add Files…")
+            onClicked: bar.addFilesRequested()
+        }
         SecondaryButton {
+            anchors.verticalCenter: parent.verticalCenter
             isGhost: true
             ground: Theme.paper
             text: qsTr("Clear")
@@ -70,7 +74,8 @@ Item {
         Row {
             id: statistics
             spacing: bar.isNarrow ? 12 : 16
-            Layout.leftMargin: bar.isNarrow ? 0 : 8
+            anchors.verticalCenter: parent.verticalCenter
+            leftPadding: bar.isNarrow ? 0 : 8
             Accessible.role: Accessible.StaticText
             Accessible.name: Format.joined([files.text, size.text, time.text], ", ")
             Statistic {
@@ -94,7 +99,10 @@ Item {
                 help: qsTr("Time of the latest suggestions")
             }
         }
-        Item { Layout.fillWidth: true }
+    }
+    Row {
+        anchors { right: parent.right; rightMargin: 16; verticalCenter: parent.verticalCenter }
+        spacing: bar.isNarrow ? 8 : 10
         PrimaryPillButton {
             id: suggest
             objectName: "suggestNames"

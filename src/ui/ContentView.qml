@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick
-import QtQuick.Layouts
 import Varlo
 
 /// The main window: files come in, names are reviewed, files are renamed.
@@ -34,10 +33,6 @@ Window {
     minimumWidth: 640
     minimumHeight: 480
     color: Theme.paper
-
-    Binding { target: Theme; property: "textScale"; value: window.uiState.textScale }
-    Binding { target: Theme; property: "isAnimated"; value: window.uiState.isAnimated }
-    Binding { target: Format; property: "locale"; value: window.uiState.localeName }
 
     component Command: Shortcut {
         enabled: !window.hasSheet
@@ -84,7 +79,7 @@ Window {
         uiState.showingSettings = true;
     }
     function goToRegion(by: int) {
-        const regions = Array.from([top, notices, panel, bottom]).filter(item => item.visible && item.height > 0);
+        const regions = Array.from([topBar, notices, panel, bottomBar]).filter(item => item.visible && item.height > 0);
         let at = regions.findIndex(region => {
             for (let item = window.activeFocusItem; item; item = item.parent) {
                 if (item === region)
@@ -112,21 +107,22 @@ Window {
         preferences: window.settings.preferences
         finder: window.settings.finder
     }
-    ColumnLayout {
+    Item { // by anchors: the library of layouts would be read before the first frame
         id: main
         anchors.fill: parent
-        spacing: 0
 
         Loader {
             id: menu
             readonly property var bar: item ///< an AppMenu
             visible: bar !== null && bar.isShown
-            Layout.fillWidth: true
+            width: parent.width
+            height: visible ? bar.implicitHeight : 0
         }
         TopBar {
-            id: top
-            Layout.fillWidth: true
-            Layout.preferredHeight: Theme.text(56)
+            id: topBar
+            anchors.top: menu.bottom
+            width: parent.width
+            height: Theme.text(56)
             batch: window.batch
             languageOptions: window.uiState.languageOptions
             templates: window.templates.choices
@@ -141,11 +137,10 @@ Window {
             onTemplateDeleteRequested: id => sheets.confirmTemplateDeletion(id)
         }
 
-        ColumnLayout {
+        Column {
             id: notices
-            Layout.fillWidth: true
-            Layout.leftMargin: 16
-            Layout.rightMargin: 16
+            anchors { top: topBar.bottom; left: parent.left; right: parent.right; leftMargin: 16; rightMargin: 16 }
+            height: visible ? implicitHeight + 8 : 0
             spacing: 8
             visible: window.hasNotice
 
@@ -154,20 +149,23 @@ Window {
                 file: ""
                 given: ({ contentView: window })
                 visible: item !== null
-                Layout.fillWidth: true
+                width: parent.width
             }
             Notice { file: "NothingRenameableBanner.qml"; isWanted: window.batch.isNothingRenameable }
             Notice { file: "KeyMissingBanner.qml"; isWanted: window.isKeyMissing }
             Notice { file: "WatcherStrip.qml"; isWanted: window.isWatching }
-            Item { Layout.preferredHeight: 0 }
         }
 
         Rectangle {
             id: panel
-            Layout.fillWidth: true
-            Layout.fillHeight: true
-            Layout.leftMargin: 16
-            Layout.rightMargin: 16
+            anchors {
+                top: notices.bottom
+                bottom: bottomBar.top
+                left: parent.left
+                right: parent.right
+                leftMargin: 16
+                rightMargin: 16
+            }
             radius: 14
             color: window.isDropTargeted && window.isEmpty ? "#EDF5F7" : Theme.surface
             border { width: 1; color: Theme.line }
@@ -197,7 +195,7 @@ Window {
                         isNarrow: window.isNarrow
                         onQuickLookRequested: row => {
                             if (window.quickLook)
-                                window.quickLook.open(row, Screen.devicePixelRatio);
+                                window.quickLook.open(row, Theme.pixelRatio);
                         }
                         Connections { // the keyboard goes on where the look ended
                             id: looking
@@ -219,16 +217,17 @@ Window {
         }
 
         BottomBar {
-            id: bottom
+            id: bottomBar
             visible: !window.isEmpty
-            Layout.fillWidth: true
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: visible ? implicitHeight : 16
             batch: window.batch
             isNarrow: window.isNarrow
             isTight: window.width < 700 * Theme.textScale
             onAddFilesRequested: sheets.chooseFiles()
             onRenameAllRequested: sheets.renameEverything()
         }
-        Item { visible: window.isEmpty; Layout.preferredHeight: 16 }
     }
 
     DropArea {
@@ -251,4 +250,10 @@ Window {
         id: sheets
         contentView: window
     }
+
+    // At the end, since what is made last takes effect first: nothing is drawn for another scale before.
+    Binding { target: Theme; property: "textScale"; value: window.uiState.textScale }
+    Binding { target: Theme; property: "isAnimated"; value: window.uiState.isAnimated }
+    Binding { target: Format; property: "locale"; value: window.uiState.localeName }
+    Binding { target: Theme; property: "pixelRatio"; value: window.Screen.devicePixelRatio }
 }

@@ -18,7 +18,7 @@ Item {
     component Drawing: Image {
         required property string name
         source: "image://icons/" + name
-        sourceSize { width: width * Screen.devicePixelRatio; height: height * Screen.devicePixelRatio }
+        sourceSize { width: width * Theme.pixelRatio; height: height * Theme.pixelRatio }
         antialiasing: true
         smooth: true
     }

@@ -67,6 +67,17 @@ FocusScope {
         boundsBehavior: Flickable.StopAtBounds
         highlightFollowsCurrentItem: true
         highlightMoveDuration: 0
+        highlightResizeDuration: 0
+        highlight: Item {
+            z: 2
+            Rectangle {
+                visible: view.activeFocus && view.isByKeyboard && !(list.currentRow && list.currentRow.isEditing)
+                anchors { fill: parent; leftMargin: 4; rightMargin: 4; topMargin: 2; bottomMargin: 2 }
+                radius: 10
+                color: "transparent"
+                border { width: 2; color: Theme.accent }
+            }
+        }
         keyNavigationEnabled: false
         T.ScrollBar.vertical: ScrollThumb { }
         Connections {

@@ -27,7 +27,7 @@ FocusScope {
     property bool isAnimated: false
     property real statusWidth: 146
     property real actionWidth: 84
-    readonly property NameField nameField: nameLoader.item as NameField
+    readonly property var nameField: naming.part ? naming.part.nameField : null ///< a NameField
     readonly property bool isEditing: nameField !== null && nameField.isEditing
     readonly property bool canUndoTyping: isEditing && nameField.canUndoTyping
     signal nameEdited(string name)
@@ -85,7 +85,7 @@ FocusScope {
         TapHandler { onTapped: row.quickLookRequested() }
     }
 
-    Label {
+    Words {
         id: current
         x: 66
         y: row.isNarrow ? (row.showsField ? Theme.text(12) : Theme.text(30))
@@ -96,9 +96,7 @@ FocusScope {
         font.weight: Font.Medium
         elide: Text.ElideMiddle
         color: row.status === "notSupportedYet" ? Theme.ink2 : Theme.ink
-        Accessible.ignored: true
-        HoverHandler { id: nameHover; enabled: current.truncated }
-        Tip { text: row.fileName; isWanted: nameHover.hovered }
+        WholeText { text: row.fileName }
     }
 
     Item { // one line below the name, by priority
@@ -106,33 +104,10 @@ FocusScope {
         x: 66
         y: current.y + current.height + Theme.text(row.isNarrow ? 5 : 1)
         width: row.isNarrow ? row.width - 80 : row.namesWidth
-        height: Math.max(Theme.text(20), row.isFailed ? failure.height - 1 : 0)
+        height: Math.max(Theme.text(20), row.isFailed ? special.height - 1 : 0)
 
-        Label {
-            id: failure
-            visible: row.isFailed
-            anchors.verticalCenter: parent.verticalCenter
-            width: parent.width
-            text: row.message
-            size: 12
-            color: Theme.bad
-            lineHeightMode: Text.FixedHeight
-            lineHeight: Theme.text(15)
-            wrapMode: Text.Wrap
-            maximumLineCount: row.isNarrow ? 1 : 2
-            elide: Text.ElideRight
-            Accessible.ignored: true
-            HoverHandler { id: messageHover; enabled: failure.truncated }
-            Tip { text: row.message; isWanted: messageHover.hovered }
-        }
-        Loader {
-            anchors.verticalCenter: parent.verticalCenter
-            width: parent.width
-            active: !row.isFailed && row.previousName === "" && row.suggestedTags.length > 0
-            sourceComponent: ChipLine { tags: row.suggestedTags }
-        }
-        Label {
-            visible: !row.isFailed && (row.previousName !== "" || row.suggestedTags.length === 0)
+        Words {
+            visible: special.file === ""
             anchors.verticalCenter: parent.verticalCenter
             width: parent.width
             text: row.previousName !== "" ? qsTr("was") + " " + Format.isolated(row.previousName)
@@ -140,36 +115,32 @@ FocusScope {
             size: 12
             color: Theme.ink3
             elide: Text.ElideMiddle
-            Accessible.ignored: true
+        }
+        Loader {
+            id: special
+            readonly property string file: row.isFailed ? "FileRowMessage.qml"
+                : row.previousName === "" && row.suggestedTags.length > 0 ? "FileRowTags.qml" : ""
+            anchors.verticalCenter: parent.verticalCenter
+            width: parent.width
+            onFileChanged: {
+                if (file !== "")
+                    setSource(file, { row: row });
+                else
+                    source = "";
+            }
         }
     }
-
-    Icon {
-        visible: row.showsField && !row.isNarrow
-        x: 66 + row.namesWidth + 12
-        anchors.verticalCenter: parent.verticalCenter
-        name: "arrow-right"
-        size: 18
-        color: Theme.lineStrong
-    }
     Loader {
-        id: nameLoader
-        active: row.showsField
+        id: naming
+        readonly property bool isWanted: row.showsField
+        readonly property var part: item ///< a FileRowNaming
+        anchors.fill: parent
         focus: true
-        x: row.isNarrow ? 66 : 66 + row.namesWidth + 42
-        y: row.isNarrow ? Theme.text(58) : (row.height - height) / 2
-        width: row.isNarrow ? row.width - 66 - 14 - 12 - row.actionWidth : row.fieldRoom - row.namesWidth
-        sourceComponent: NameField {
-            focus: true
-            name: row.suggestedName
-            extension: row.extension
-            currentName: row.fileName
-            isWorking: row.isWorking
-            isAnimated: row.isAnimated
-            onEdited: name => row.nameEdited(name)
-            onAccepted: backwards => row.accepted(backwards)
-            onEscaped: row.escaped()
-            onStepped: by => row.stepped(by)
+        onIsWantedChanged: {
+            if (isWanted)
+                setSource("FileRowNaming.qml", { row: row });
+            else
+                source = "";
         }
     }
     StatusPill {
@@ -178,25 +149,5 @@ FocusScope {
         label: row.statusLabel
         x: row.isNarrow ? row.width - 14 - width : row.width - 14 - row.actionWidth - 12 - row.statusWidth
         y: row.isNarrow && row.showsField ? Theme.text(9) : (row.height - height) / 2
-    }
-    Loader {
-        active: row.hasNameField
-        x: row.width - 14 - row.actionWidth
-        y: row.isNarrow ? Theme.text(60) : (row.height - height) / 2
-        sourceComponent: SecondaryButton {
-            isSmall: true
-            enabled: row.canRename
-            text: qsTr("Rename")
-            description: row.fileName + " → " + row.suggestedName + row.extension
-            onClicked: row.renameRequested()
-        }
-    }
-
-    Rectangle {
-        visible: row.isCurrent && !row.isEditing
-        anchors { fill: parent; leftMargin: 4; rightMargin: 4; topMargin: 2; bottomMargin: 2 }
-        radius: 10
-        color: "transparent"
-        border { width: 2; color: Theme.accent }
     }
 }

@@ -43,24 +43,22 @@ Rectangle {
         ColumnLayout {
             Layout.fillWidth: true
             spacing: 0
-            Label {
+            Words {
                 Layout.fillWidth: true
                 text: Format.isolated(row.toName)
                 font { weight: Font.Medium; strikeout: row.isReverted }
                 color: row.isReverted ? Theme.ink3 : Theme.ink
                 elide: Text.ElideMiddle
-                Accessible.ignored: true
             }
-            Label {
+            Words {
                 Layout.fillWidth: true
                 text: qsTr("was") + " " + Format.isolated(row.fromName)
                 size: 12
                 color: Theme.ink3
                 elide: Text.ElideMiddle
-                Accessible.ignored: true
             }
         }
-        Label { text: row.time; size: 12; color: Theme.ink3; Accessible.ignored: true }
+        Words { text: row.time; size: 12; color: Theme.ink3 }
         Item {
             Layout.leftMargin: 8
             implicitWidth: Math.max(100, revert.implicitWidth)

@@ -139,13 +139,12 @@ Sheet {
                         checked = true;
                     }
                 }
-                Label {
+                Words {
                     id: count
                     Layout.fillWidth: true
                     text: sheet.history.selectedCount + qsTr(" selected")
                     size: 13
                     font.weight: Font.DemiBold
-                    Accessible.ignored: true
                 }
                 SecondaryButton {
                     isGhost: true

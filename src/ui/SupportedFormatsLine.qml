@@ -19,7 +19,7 @@ Row {
         size: 13
         color: line.ink
     }
-    Label { anchors.verticalCenter: parent.verticalCenter; text: "·"; size: 13; color: line.ink; Accessible.ignored: true }
+    Words { anchors.verticalCenter: parent.verticalCenter; text: "·"; size: 13; color: line.ink }
     LinkButton {
         anchors.verticalCenter: parent.verticalCenter
         text: qsTr("View all")

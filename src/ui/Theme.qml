@@ -46,12 +46,23 @@ QtObject {
             "doc.plaintext": { ink: "#5C574F", tint: "#ECE8E1", icon: "notes" },
             "doc": { ink: "#5C574F", tint: "#ECE8E1", icon: "file" }
         })
+    readonly property var statusLooks: ({
+            pending: { icon: "circle-dashed", ink: ink2, fill: fill },
+            processing: { icon: "loader-2", ink: accentInk, fill: accentTint },
+            suggested: { icon: "sparkles", ink: accentInk, fill: accentTint },
+            renamed: { icon: "check", ink: ok, fill: okTint },
+            alreadyRenamed: { icon: "checks", ink: ok, fill: "transparent", line: okLine },
+            noTextFound: { icon: "file-unknown", ink: warn, fill: warnTint },
+            notSupportedYet: { icon: "ban", ink: ink2, fill: "transparent", line: lineStrong },
+            failed: { icon: "alert-triangle", ink: bad, fill: badTint }
+        })
 
     readonly property string family: "Inter"
     readonly property string displayFamily: "Inter Display"
     readonly property string codeFamily: "JetBrains Mono"
     /// What the desktop's text size multiplies every height of text with.
     property real textScale: 1
+    property real pixelRatio: 1 ///< pixels of the screen to one of ours
     function text(pixels: real): int { return Math.round(pixels * textScale); }
 
     property bool isAnimated: true

@@ -1,11 +1,10 @@
 // SPDX-FileCopyrightText: The Varlo developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick
-import QtQuick.Layouts
 import Varlo
 
 /// What the next suggestions are made with, and the ways to the history and the settings.
-RowLayout {
+Item {
     id: bar
 
     required property RenamerViewModel batch
@@ -18,18 +17,22 @@ RowLayout {
     signal templateCreateRequested
     signal templateDeleteRequested(string id)
 
-    spacing: 8
-    Label {
-        Layout.leftMargin: 16
+    readonly property real pickersRoom: chrome.x - language.x - templateGap - 8
+    readonly property real templateGap: isNarrow ? 16 : 26
+
+    Words {
+        id: caption
+        x: 16
+        anchors.verticalCenter: parent.verticalCenter
         text: qsTr("Filename language:")
         size: 13
         color: Theme.ink2
-        Accessible.ignored: true
     }
     OptionPicker {
-        Layout.maximumWidth: implicitWidth
-        Layout.fillWidth: true
-        Layout.minimumWidth: 72
+        id: language
+        x: caption.x + Math.ceil(caption.width) + 8
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, Math.max(72, bar.pickersRoom - template.implicitWidth))
         caption: qsTr("Filename language")
         options: bar.languageOptions
         selection: bar.batch.languageId
@@ -37,10 +40,10 @@ RowLayout {
         onChosen: id => bar.batch.languageId = id
     }
     TemplatePicker {
-        Layout.leftMargin: bar.isNarrow ? 8 : 18
-        Layout.maximumWidth: implicitWidth
-        Layout.fillWidth: true
-        Layout.minimumWidth: 120
+        id: template
+        x: language.x + language.width + bar.templateGap
+        anchors.verticalCenter: parent.verticalCenter
+        width: Math.min(implicitWidth, Math.max(120, bar.pickersRoom - language.width))
         templates: bar.templates
         selection: bar.batch.templateId
         onChosen: id => bar.batch.templateId = id
@@ -48,17 +51,19 @@ RowLayout {
         onCreateRequested: bar.templateCreateRequested()
         onDeleteRequested: id => bar.templateDeleteRequested(id)
     }
-    Item { Layout.fillWidth: true; Layout.preferredWidth: 1 }
-    ChromeIconButton {
-        systemName: "history"
-        help: qsTr("History")
-        onClicked: bar.historyRequested()
-    }
-    ChromeIconButton {
-        Layout.leftMargin: -4
-        Layout.rightMargin: 12
-        systemName: "settings"
-        help: qsTr("Settings")
-        onClicked: bar.settingsRequested()
+    Row {
+        id: chrome
+        anchors { right: parent.right; rightMargin: 12; verticalCenter: parent.verticalCenter }
+        spacing: 4
+        ChromeIconButton {
+            systemName: "history"
+            help: qsTr("History")
+            onClicked: bar.historyRequested()
+        }
+        ChromeIconButton {
+            systemName: "settings"
+            help: qsTr("Settings")
+            onClicked: bar.settingsRequested()
+        }
     }
 }

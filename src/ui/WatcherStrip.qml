@@ -22,21 +22,19 @@ Rectangle {
         anchors { fill: parent; leftMargin: 13; rightMargin: 5 }
         spacing: 8
         Icon { name: "folder" }
-        Label {
+        Words {
             Layout.maximumWidth: implicitWidth
             Layout.fillWidth: true
             text: strip.folderName
             size: 13
             font.weight: Font.DemiBold
             elide: Text.ElideMiddle
-            Accessible.ignored: true
         }
-        Label {
+        Words {
             Layout.leftMargin: -3
             text: qsTr("is being watched")
             size: 13
             color: Theme.ink2
-            Accessible.ignored: true
         }
         Rectangle {
             Layout.leftMargin: 8
@@ -45,13 +43,12 @@ Rectangle {
             radius: 4
             color: strip.isPaused ? Theme.warnDot : Theme.okDot
         }
-        Label {
+        Words {
             id: state
             Layout.leftMargin: -2
             text: strip.isPaused ? qsTr("Paused") : qsTr("Active")
             size: 13
             font.weight: Font.Medium
-            Accessible.ignored: true
         }
         Item { Layout.fillWidth: true }
         SecondaryButton {

@@ -39,13 +39,12 @@ Rectangle {
         Column { // a layout would ask again and again how high the wrapped words are
             Layout.fillWidth: true
             Layout.preferredWidth: 1
-            Label {
+            Words {
                 width: parent.width
                 text: banner.title
                 size: 13
                 font.weight: banner.isError ? Font.Medium : Font.DemiBold
                 wrapMode: Text.Wrap
-                Accessible.ignored: true
             }
             RowLayout {
                 id: below

@@ -23,7 +23,7 @@ T.Button {
     property string help ///< a tooltip
     property string description ///< what is read aloud beside the name
 
-    implicitWidth: Math.max(28, contentItem.implicitWidth + leftPadding + rightPadding)
+    implicitWidth: Math.max(28, Math.ceil(contentItem.implicitWidth) + leftPadding + rightPadding)
     implicitHeight: Theme.text(34)
     leftPadding: 14
     rightPadding: 14
@@ -75,13 +75,12 @@ T.Button {
                     onStopped: sign.rotation = 0
                 }
             }
-            Label {
+            Words {
                 anchors.verticalCenter: parent.verticalCenter
                 visible: text !== ""
                 text: button.text
                 font: button.font
                 color: button.ink
-                Accessible.ignored: true
             }
         }
     }
@@ -93,10 +92,6 @@ T.Button {
         border.color: button.hovered && button.enabled ? Theme.lineHovered : Theme.lineStrong
         Behavior on color { ColorAnimation { duration: Theme.fast } }
 
-        Loader {
-            anchors.fill: parent
-            active: button.visualFocus
-            sourceComponent: FocusRing { controlRadius: button.radius; ground: button.ground }
-        }
+        FocusRing { isShown: button.visualFocus; controlRadius: button.radius; ground: button.ground }
     }
 }

@@ -34,10 +34,6 @@ T.CheckBox {
             size: 14
             color: Theme.surface
         }
-        Loader {
-            anchors.fill: parent
-            active: box.visualFocus
-            sourceComponent: FocusRing { controlRadius: 5 }
-        }
+        FocusRing { isShown: box.visualFocus; controlRadius: 5 }
     }
 }

@@ -27,7 +27,7 @@ T.TextField {
     Accessible.role: Accessible.EditableText
     Accessible.name: label
 
-    Label {
+    Words {
         x: field.leftPadding
         width: field.width - field.leftPadding - field.rightPadding
         height: field.height
@@ -35,7 +35,6 @@ T.TextField {
         text: field.placeholderText
         color: Theme.ink3
         elide: Text.ElideRight
-        Accessible.ignored: true
     }
     Icon {
         visible: field.iconName !== ""

@@ -3,21 +3,19 @@
 import QtQuick
 import Varlo
 
-/// Shown around its parent after keyboard use: two pixels of accent outside a gap of two.
-Rectangle {
+/// Shown around its parent after keyboard use; not even read before.
+Loader {
+    id: ring
+
+    property bool isShown: false
     property real controlRadius: 9
     property color ground: Theme.surface
 
     anchors.fill: parent
-    anchors.margins: -4
-    radius: controlRadius + 4
-    color: "transparent"
-    border { width: 2; color: Theme.accent }
-
-    Rectangle {
-        anchors { fill: parent; margins: 2 }
-        radius: parent.radius - 2
-        color: "transparent"
-        border { width: 2; color: parent.ground }
+    onIsShownChanged: {
+        if (isShown)
+            setSource("FocusRingLines.qml", { ring: ring });
+        else
+            source = "";
     }
 }

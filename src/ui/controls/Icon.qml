@@ -5,8 +5,6 @@ import Varlo
 
 /// One of the line icons, tinted.
 Image {
-    id: icon
-
     required property string name
     property color color: Theme.ink2
     property int size: 18
@@ -14,6 +12,5 @@ Image {
     width: size
     height: size
     source: name === "" ? "" : "image://icons/" + name + "/" + color.toString().slice(1)
-    sourceSize { width: size * Screen.devicePixelRatio; height: size * Screen.devicePixelRatio }
-    Accessible.ignored: true
+    sourceSize { width: size * Theme.pixelRatio; height: size * Theme.pixelRatio }
 }

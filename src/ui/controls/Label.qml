@@ -3,15 +3,8 @@
 import QtQuick
 import Varlo
 
-/// Text of one size and weight. Never interprets what it shows: names and messages come from strangers.
-Text {
-    property int size: 14
-
-    textFormat: Text.PlainText
-    color: Theme.ink
-    font.pixelSize: Theme.text(size)
-    renderType: Text.NativeRendering
-    verticalAlignment: Text.AlignVCenter
+/// Words that are read aloud.
+Words {
     Accessible.role: Accessible.StaticText
     Accessible.name: text
 }

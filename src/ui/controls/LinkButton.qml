@@ -26,7 +26,7 @@ T.Button {
     contentItem: Row {
         spacing: 5
         layoutDirection: link.isIconFirst ? Qt.RightToLeft : Qt.LeftToRight
-        Label {
+        Words {
             id: label
             anchors.verticalCenter: parent.verticalCenter
             size: link.textSize
@@ -34,7 +34,6 @@ T.Button {
             color: link.ink
             font.weight: Font.Medium
             font.underline: link.hovered
-            Accessible.ignored: true
         }
         Icon {
             visible: link.iconName !== ""
@@ -45,10 +44,11 @@ T.Button {
         }
     }
     background: Item {
-        Loader {
+        FocusRing {
             anchors { fill: parent; margins: -2 }
-            active: link.visualFocus
-            sourceComponent: FocusRing { controlRadius: 6; ground: "transparent" }
+            isShown: link.visualFocus
+            controlRadius: 6
+            ground: "transparent"
         }
     }
 }

@@ -22,20 +22,18 @@ T.MenuItem {
     Accessible.onPressAction: if (enabled) clicked()
 
     contentItem: Item {
-        Label {
+        Words {
             anchors { left: parent.left; right: shortcut.left; rightMargin: 24; verticalCenter: parent.verticalCenter }
             text: entry.text
             size: 13
             color: entry.enabled ? Theme.ink : Theme.inkDisabled
-            Accessible.ignored: true
         }
-        Label {
+        Words {
             id: shortcut
             anchors { right: parent.right; verticalCenter: parent.verticalCenter }
             text: entry.keys
             size: 12
             color: entry.enabled ? Theme.ink3 : Theme.inkDisabled
-            Accessible.ignored: true
         }
     }
     background: Rectangle {

@@ -146,22 +146,20 @@ FocusScope {
                     }
                 }
             }
-            Label {
+            Words {
                 visible: input.text === "" && input.preeditText === ""
                 anchors.verticalCenter: parent.verticalCenter
                 width: input.room
                 text: qsTr("Type a name…")
                 color: Theme.ink3
                 elide: Text.ElideRight
-                Accessible.ignored: true
             }
-            Label {
+            Words {
                 id: suffix
                 x: input.text === "" ? input.room : Math.min(input.contentWidth, input.room)
                 anchors.verticalCenter: parent.verticalCenter
                 text: field.extension
                 color: Theme.ink3
-                Accessible.ignored: true
             }
         }
     }

@@ -55,16 +55,15 @@ T.AbstractButton {
             id: row
             anchors.verticalCenter: parent.verticalCenter
             spacing: 6
-            Label {
+            Words {
                 id: lead
                 anchors.verticalCenter: parent.verticalCenter
                 visible: text !== ""
                 text: picker.label
                 size: 13
                 color: Theme.ink2
-                Accessible.ignored: true
             }
-            Label {
+            Words {
                 id: choice
                 anchors.verticalCenter: parent.verticalCenter
                 width: Math.min(Math.ceil(implicitWidth),
@@ -74,7 +73,6 @@ T.AbstractButton {
                 size: 13
                 font.weight: Font.Medium
                 elide: Text.ElideRight
-                Accessible.ignored: true
             }
             Icon {
                 id: chevronIcon
@@ -98,11 +96,7 @@ T.AbstractButton {
             radius: 12
             color: Theme.accentTint2
         }
-        Loader {
-            anchors.fill: parent
-            active: picker.visualFocus && !picker.isPresented
-            sourceComponent: FocusRing { controlRadius: 9; ground: Theme.paper }
-        }
+        FocusRing { isShown: picker.visualFocus && !picker.isPresented; controlRadius: 9; ground: Theme.paper }
     }
 
     Loader { id: loader }

@@ -22,13 +22,12 @@ Popover {
                     choices.itemAt(i).forceActiveFocus(Qt.PopupFocusReason);
             }
         }
-        Label {
+        Words {
             visible: popover.picker.caption !== ""
             leftPadding: 10
             topPadding: 8
             bottomPadding: 6
             text: popover.picker.caption
-            Accessible.ignored: true
             size: 12
             font.weight: Font.DemiBold
             color: Theme.ink3

@@ -49,14 +49,13 @@ Rectangle {
                 Accessible.description: modelData.detail ?? ""
                 Accessible.onPressAction: clicked()
                 Accessible.onToggleAction: clicked()
-                contentItem: Label {
+                contentItem: Words {
                     id: label
                     text: pill.modelData.name
                     size: 13
                     horizontalAlignment: Text.AlignHCenter
                     font.weight: pill.isOn ? Font.DemiBold : Font.Medium
                     color: pill.isOn ? Theme.ink : Theme.ink2
-                    Accessible.ignored: true
                 }
                 background: Rectangle {
                     radius: height / 2
@@ -70,11 +69,7 @@ Rectangle {
                         radius: height / 2
                         color: "#2E342C20"
                     }
-                    Loader {
-                        anchors.fill: parent
-                        active: pill.visualFocus
-                        sourceComponent: FocusRing { controlRadius: pill.height / 2; ground: Theme.fill }
-                    }
+                    FocusRing { isShown: pill.visualFocus; controlRadius: pill.height / 2; ground: Theme.fill }
                 }
             }
         }

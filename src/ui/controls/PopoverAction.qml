@@ -32,11 +32,10 @@ T.AbstractButton {
             name: action.iconName
             size: 16
         }
-        Label {
+        Words {
             anchors.verticalCenter: parent.verticalCenter
             text: action.text
             font.weight: Font.Medium
-            Accessible.ignored: true
         }
     }
     background: Rectangle {

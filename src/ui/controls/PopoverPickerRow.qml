@@ -51,21 +51,19 @@ T.RadioButton {
                 right: parent.right
                 verticalCenter: parent.verticalCenter
             }
-            Label {
+            Words {
                 width: parent.width
                 text: row.name
                 font.weight: Font.Medium
                 elide: Text.ElideRight
-                Accessible.ignored: true
             }
-            Label {
+            Words {
                 width: parent.width
                 visible: row.detail !== ""
                 text: row.detail
                 size: 12
                 color: Theme.ink3
                 elide: Text.ElideRight
-                Accessible.ignored: true
             }
         }
     }

@@ -38,10 +38,6 @@ T.Switch {
             color: Theme.surface
             Behavior on x { NumberAnimation { duration: Theme.fast; easing.type: Easing.OutCubic } }
         }
-        Loader {
-            anchors.fill: parent
-            active: control.visualFocus
-            sourceComponent: FocusRing { controlRadius: 12 }
-        }
+        FocusRing { isShown: control.visualFocus; controlRadius: 12 }
     }
 }

@@ -30,7 +30,7 @@ ColumnLayout {
 
     Image {
         source: "image://icons/varlo"
-        sourceSize { width: 88 * Screen.devicePixelRatio; height: 88 * Screen.devicePixelRatio }
+        sourceSize { width: 88 * Theme.pixelRatio; height: 88 * Theme.pixelRatio }
         Layout.preferredWidth: 88
         Layout.preferredHeight: 88
         Accessible.ignored: true

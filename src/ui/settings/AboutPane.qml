@@ -27,7 +27,7 @@ ColumnLayout {
         spacing: 16
         Image {
             source: "image://icons/varlo"
-            sourceSize { width: 72 * Screen.devicePixelRatio; height: 72 * Screen.devicePixelRatio }
+            sourceSize { width: 72 * Theme.pixelRatio; height: 72 * Theme.pixelRatio }
             Layout.preferredWidth: 72
             Layout.preferredHeight: 72
             Accessible.ignored: true

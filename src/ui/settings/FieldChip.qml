@@ -58,11 +58,7 @@ T.AbstractButton {
         rotation: chip.isDragged ? -1.5 : 0
         color: Theme.surface
         border { width: 1; color: chip.isDragged ? Theme.accent : Theme.lineStrong }
-        Loader {
-            anchors.fill: parent
-            active: chip.visualFocus
-            sourceComponent: FocusRing { ground: Theme.sunken }
-        }
+        FocusRing { isShown: chip.visualFocus; ground: Theme.sunken }
         Loader {
             anchors.fill: parent
             z: -1
@@ -80,12 +76,11 @@ T.AbstractButton {
                 size: 16
                 color: Theme.control
             }
-            Label {
+            Words {
                 anchors.verticalCenter: parent.verticalCenter
                 text: chip.label
                 size: 13
                 font.weight: Font.Medium
-                Accessible.ignored: true
             }
             ChromeIconButton {
                 anchors.verticalCenter: parent.verticalCenter

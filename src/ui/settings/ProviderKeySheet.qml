@@ -42,11 +42,10 @@ Sheet {
         function onKeyNotSaved() { keyField.takeFocus(); }
     }
 
-    component Caption: Label {
+    component Caption: Words {
         Layout.bottomMargin: 6
         size: 13
         font.weight: Font.Medium
-        Accessible.ignored: true
     }
 
     contentItem: ScrollArea {

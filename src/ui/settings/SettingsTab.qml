@@ -25,11 +25,7 @@ Pressable {
         radius: 9
         color: tab.isCurrent ? Theme.surface : tab.hovered ? Theme.fill : "transparent"
         border { width: tab.isCurrent ? 1 : 0; color: Theme.line }
-        Loader {
-            anchors.fill: parent
-            active: tab.isFocusShown
-            sourceComponent: FocusRing { controlRadius: 9; ground: Theme.paper }
-        }
+        FocusRing { isShown: tab.isFocusShown; controlRadius: 9; ground: Theme.paper }
     }
     Icon {
         id: icon
@@ -39,7 +35,7 @@ Pressable {
         size: 19
         color: tab.isCurrent ? Theme.accent : Theme.ink2
     }
-    Label {
+    Words {
         anchors {
             left: icon.right
             leftMargin: 10
@@ -51,6 +47,5 @@ Pressable {
         elide: Text.ElideRight
         font.weight: tab.isCurrent ? Font.DemiBold : Font.Medium
         color: tab.isCurrent ? Theme.ink : Theme.ink2
-        Accessible.ignored: true
     }
 }

@@ -43,13 +43,12 @@ ColumnLayout {
             }
             ColumnLayout {
                 spacing: 2
-                Label {
+                Words {
                     Layout.fillWidth: true
                     //: A file name, as an example of what Varlo makes
                     text: qsTr("2025-03-14 - Acme - Hosting plan - 174.24 EUR.pdf")
                     font.weight: Font.Medium
                     elide: Text.ElideMiddle
-                    Accessible.ignored: true
                 }
                 ChipLine {
                     Layout.fillWidth: true
