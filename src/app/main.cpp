@@ -66,7 +66,7 @@ static void quitAtRows(Application &varlo)
         return;
     QObject::connect(varlo.window(), &QQuickWindow::frameSwapped, varlo.window(), [&varlo, rows] {
         if (varlo.batch().rowCount() >= rows)
-            QGuiApplication::quit();
+            QGuiApplication::exit(); // without the rows that come after it
     });
 }
 

@@ -3,7 +3,9 @@
 #include "ui/chooseFonts.h"
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QThreadPool>
 
 namespace Varlo {
 
@@ -17,6 +19,9 @@ void chooseFonts()
     QFont font = QGuiApplication::font();
     font.setFamily(u"Inter"_s);
     QGuiApplication::setFont(font);
+    // Nothing of the start takes longer than to read what fonts the system has, and the main thread has other work
+    // before its first word.
+    QThreadPool::globalInstance()->start([font] { (void)QFontMetricsF(font).height(); });
 }
 
 } // namespace Varlo
