@@ -23,7 +23,7 @@ Rectangle {
         spacing: 8
         Icon { name: "folder" }
         Words {
-            Layout.maximumWidth: implicitWidth
+            Layout.maximumWidth: Math.ceil(implicitWidth) // a layout rounds down, which would shorten it
             Layout.fillWidth: true
             text: strip.folderName
             size: 13

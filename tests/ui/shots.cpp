@@ -19,6 +19,7 @@
 #include "ui/QuickLook.h"
 #include "ui/SettingsModels.h"
 #include "workflow/TestBatch.h"
+#include "workflow/WatchedFolder.h"
 #include <filesystem>
 #include <functional>
 #include <QCoroFuture>
@@ -91,6 +92,8 @@ public:
         clock.time = QDateTime(QDate(2026, 3, 14), QTime(15, 9, 26));
         engine.setInitialProperties({ { u"batch"_s, QVariant::fromValue(&batch) },
             { u"history"_s, QVariant::fromValue(&history) }, { u"templates"_s, QVariant::fromValue(&choices) },
+            { u"watcher"_s, QVariant::fromValue(&watcher) },
+            { u"watchedFolder"_s, QVariant::fromValue(&watchedFolder) },
             { u"quickLook"_s, QVariant::fromValue(&quickLook) }, { u"settings"_s, QVariant::fromValue(settings.get()) },
             { u"uiState"_s, QVariant::fromValue(&uiState) } });
         engine.load(QUrl(u"qrc:/qt/qml/Varlo/ContentView.qml"_s));
@@ -141,6 +144,8 @@ public:
     SampleSuggester suggester;
     RenamerViewModel batch { RenamerViewModel::Collaborators {
         reader, suggester, templates, log, renamer, access, nullptr, preferences, locale } };
+    FolderWatcher watcher;
+    WatchedFolder watchedFolder { preferences, access, watcher, batch };
     TemplateChoices choices { templates, [] { return FilenameLanguage::English; } };
     HistoryView history { log, clock };
     FakePreviewReader previews;
@@ -307,6 +312,16 @@ static const std::map<QString, std::function<void(Stage &)>> &screens()
         { u"main-empty-dragover"_s, [](Stage &stage) { stage.window->setProperty("isDropTargeted", true); } },
         { u"main-files"_s, fillWithEveryStatus },
         { u"main-review"_s, fillForReview },
+        { u"main-watching"_s,
+            [](Stage &stage) {
+                fillForReview(stage);
+                const std::filesystem::path folder = stage.home / "Scans";
+                std::filesystem::create_directories(folder);
+                stage.access.addGrant(folder);
+                static_cast<void>(stage.preferences.set(Preference::watchFolderPath, shownPath(folder)));
+                static_cast<void>(stage.preferences.set(Preference::watchFolderEnabled, true));
+                stage.watchedFolder.apply();
+            } },
         { u"main-dragover"_s,
             [](Stage &stage) {
                 fillForReview(stage);
@@ -518,6 +533,8 @@ static void checkThatWordsFit(const QQuickItem *item, const QQuickItem *control 
 {
     if (!item->isVisible())
         return;
+    if (item->property("truncated").toBool() && item->implicitWidth() < item->width() + 1)
+        qWarning() << "cut for a fraction of a pixel:" << item->property("text");
     const QByteArray type = item->metaObject()->className();
     if (type.startsWith("OptionPicker") || type.startsWith("TemplatePicker") || type.startsWith("PopoverPickerRow"))
         return;
