@@ -56,7 +56,7 @@ void FolderEventsTest::notices()
     QSignalSpy pending(m_events, &FolderEvents::pending);
     QVERIFY(m_events->read().isEmpty);
     QCOMPARE(std::system(("cd watched && " + command).constData()), 0);
-    QVERIFY(!pending.isEmpty() || pending.wait());
+    QVERIFY(!pending.isEmpty() || pending.wait(60'000));
     const FolderEvents::Slice slice = m_events->read();
     QVERIFY(!slice.isEmpty && !slice.isFolderLost);
     QTEST(slice.arrived, "arrived");

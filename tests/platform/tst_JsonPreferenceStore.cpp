@@ -387,7 +387,7 @@ void JsonPreferenceStoreTest::noticesAnotherProcess()
     for (const QString &model : { u"one"_s, u"two"_s }) {
         QProcess other;
         startSelf(other, { u"--set"_s, QString::fromStdString(file()), model });
-        QTRY_VERIFY(store.value(u"model"_s, PreferenceType::String) == text(model));
+        QTRY_VERIFY_WITH_TIMEOUT(store.value(u"model"_s, PreferenceType::String) == text(model), 60'000);
         QVERIFY(other.state() == QProcess::NotRunning || other.waitForFinished());
     }
     QCOMPARE(changes, (QList<QList<QVariant>> { { u"model"_s }, { u"model"_s } }));
@@ -404,7 +404,7 @@ void JsonPreferenceStoreTest::announcesItsOwnChangeOnce()
     // Another key's change comes through the watcher, so whatever the watcher made of the first is in by then.
     JsonPreferenceStore other(file());
     QVERIFY(other.update(u"model"_s, PreferenceType::String, to(u"m"_s)));
-    QTRY_COMPARE(changes.size(), 2);
+    QTRY_COMPARE_WITH_TIMEOUT(changes.size(), 2, 60'000);
     QCOMPARE(changes.last(), QList<QVariant> { u"model"_s });
 }
 

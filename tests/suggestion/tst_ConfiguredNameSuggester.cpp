@@ -80,7 +80,7 @@ void ConfiguredNameSuggesterTest::sendsEachKeyOnlyWhereItWasSavedFor()
 {
     Desk desk;
     desk.provider->saveKey(u" k1 "_s);
-    QTRY_VERIFY(desk.provider->hasKey());
+    QTRY_VERIFY_WITH_TIMEOUT(desk.provider->hasKey(), 60'000);
     QCOMPARE(desk.secrets.secrets, (std::map<QString, QString> { { desk.first.address(), u"k1"_s } }));
     QCOMPARE(desk.suggest(), u"named"_s);
     QCOMPARE(desk.first.requests().constLast().header("x-api-key"), "k1");
@@ -88,14 +88,14 @@ void ConfiguredNameSuggesterTest::sendsEachKeyOnlyWhereItWasSavedFor()
     QCOMPARE(desk.test(desk.second.address()), u"No API key set."_s);
     QVERIFY(desk.provider->hasKey()); // that was of the other one
     QVERIFY(desk.provider->setUp(desk.second.address(), {}));
-    QTRY_VERIFY(!desk.provider->hasKey());
+    QTRY_VERIFY_WITH_TIMEOUT(!desk.provider->hasKey(), 60'000);
     QCOMPARE(desk.suggest(), u"No API key set."_s);
     QVERIFY(desk.second.requests().isEmpty());
 
     QVERIFY(desk.provider->setUp(desk.first.address(), {}));
-    QTRY_VERIFY(desk.provider->hasKey());
+    QTRY_VERIFY_WITH_TIMEOUT(desk.provider->hasKey(), 60'000);
     desk.provider->removeKey();
-    QTRY_VERIFY(!desk.provider->hasKey());
+    QTRY_VERIFY_WITH_TIMEOUT(!desk.provider->hasKey(), 60'000);
     QVERIFY(desk.secrets.secrets.empty());
 }
 

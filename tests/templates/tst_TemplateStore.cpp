@@ -186,7 +186,7 @@ void TemplateStoreTest::losesNothingToAnotherStore()
     QVERIFY(first && second);
     QCOMPARE(other.templates().size(), 6);
     QVERIFY(other.nameTemplate(*first));
-    QTRY_COMPARE(one.templates(), other.templates());
+    QTRY_COMPARE_WITH_TIMEOUT(one.templates(), other.templates(), 60'000);
     QVERIFY(one.deleteTemplate(*second));
     QCOMPARE(one.templates().size(), 5);
 }

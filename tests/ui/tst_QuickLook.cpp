@@ -46,7 +46,7 @@ void QuickLookTest::readsWhereItRests()
     m_look->step(1);
     m_look->step(1);
     QCOMPARE(m_look->row(), 2);
-    QTRY_COMPARE(m_look->text(), u"c.txt"_s);
+    QTRY_COMPARE_WITH_TIMEOUT(m_look->text(), u"c.txt"_s, 60'000);
     QCOMPARE(m_reader->asked, std::vector<Path> { "c.txt" });
     QVERIFY(!m_look->isReading());
 }
@@ -55,20 +55,20 @@ void QuickLookTest::dropsAnswersThatComeLate()
 {
     m_reader->isHeld = true;
     m_look->open(0, 1);
-    QTRY_COMPARE(m_reader->asked.size(), 1U);
+    QTRY_COMPARE_WITH_TIMEOUT(m_reader->asked.size(), 1U, 60'000);
     m_look->step(1);
-    QTRY_COMPARE(m_reader->asked.size(), 2U);
+    QTRY_COMPARE_WITH_TIMEOUT(m_reader->asked.size(), 2U, 60'000);
     QStringList seen;
     connect(m_look.get(), &QuickLook::contentChanged, this, [&] { seen.append(m_look->text()); });
     m_reader->letGo();
-    QTRY_COMPARE(seen, QStringList { u"b.txt"_s });
+    QTRY_COMPARE_WITH_TIMEOUT(seen, QStringList { u"b.txt"_s }, 60'000);
 }
 
 void QuickLookTest::closesWithTheBatch()
 {
     m_reader->isHeld = true;
     m_look->open(0, 1);
-    QTRY_COMPARE(m_reader->asked.size(), 1U);
+    QTRY_COMPARE_WITH_TIMEOUT(m_reader->asked.size(), 1U, 60'000);
     m_test->batch->clear();
     QVERIFY(!m_look->isOpen());
     m_reader->letGo();
@@ -82,7 +82,7 @@ void QuickLookTest::maybeDestroyedWhileReading()
 {
     m_reader->isHeld = true;
     m_look->open(0, 1);
-    QTRY_COMPARE(m_reader->asked.size(), 1U);
+    QTRY_COMPARE_WITH_TIMEOUT(m_reader->asked.size(), 1U, 60'000);
     m_look.reset();
     m_reader->letGo();
     QCoreApplication::processEvents();
@@ -109,7 +109,7 @@ void QuickLookTest::shows()
     QFETCH(Preview, preview);
     m_reader->previews.insert_or_assign("a.txt", preview);
     m_look->open(0, 1);
-    QTRY_VERIFY(!m_look->isReading());
+    QTRY_VERIFY_WITH_TIMEOUT(!m_look->isReading(), 60'000);
     QTEST(m_look->text(), "text");
     QTEST(m_look->message(), "message");
     QVERIFY(m_look->picture().isNull());
@@ -121,7 +121,7 @@ void QuickLookTest::showsPixelsAsTheyAre()
     const QByteArray rows = "\xff\0\0\0\xff\0\0\0\xff"_ba + QByteArray(9, '\xff');
     m_reader->previews.insert_or_assign("a.txt", PicturePreview { { 3, 2 }, rows });
     m_look->open(0, 1);
-    QTRY_VERIFY(!m_look->isReading());
+    QTRY_VERIFY_WITH_TIMEOUT(!m_look->isReading(), 60'000);
     const QImage picture = m_look->picture();
     QCOMPARE(picture.size(), QSize(3, 2));
     QCOMPARE(picture.pixel(0, 0), qRgb(255, 0, 0));

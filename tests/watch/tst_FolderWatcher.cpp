@@ -86,7 +86,7 @@ struct Watched {
         const std::size_t before = reports.size();
         std::ofstream(folder / "~last.txt");
         letTimePass();
-        if (!QTest::qWaitFor([&] { return reports.size() > before; }) || reports.size() != before + 1)
+        if (!QTest::qWaitFor([&] { return reports.size() > before; }, 60'000) || reports.size() != before + 1)
             return { "not one report" };
         Names names = reports.back();
         std::erase(names, "~last.txt");
@@ -168,10 +168,10 @@ void FolderWatcherTest::reportsAPathOnce()
     QCOMPARE(test.nextReport(), Names { "a.txt" });
     test.run("rm a.txt ./~last.txt");
     test.letTimePass();
-    QTRY_VERIFY(!test.timer().isActive());
+    QTRY_VERIFY_WITH_TIMEOUT(!test.timer().isActive(), 60'000);
     test.run("touch a.txt ./~last.txt b.txt");
     test.letTimePass();
-    QTRY_COMPARE(test.reports.size(), 2U);
+    QTRY_COMPARE_WITH_TIMEOUT(test.reports.size(), 2U, 60'000);
     QCOMPARE(test.reports.back(), Names { "b.txt" });
 }
 
@@ -181,7 +181,7 @@ void FolderWatcherTest::startsTheDelayAgainWithEachEvent()
     QVERIFY(test.watcher->start(test.folder, false));
     std::ofstream file(test.folder / "a.txt");
     for (int part = 0; part < 3; ++part) {
-        QTRY_COMPARE(test.timer().intervalAsDuration(), Watched::delay);
+        QTRY_COMPARE_WITH_TIMEOUT(test.timer().intervalAsDuration(), Watched::delay, 60'000);
         QVERIFY(test.timer().isActive());
         test.timer().start(2 * Watched::delay); // whoever starts it again brings its own delay
         file << "more" << std::flush;
@@ -208,7 +208,7 @@ void FolderWatcherTest::missesNothingWhileTheFirstListingTakesItsTime()
         QVERIFY(test.watcher->start(test.folder, false));
         test.run("touch new.txt");
         test.letTimePass();
-        QTRY_VERIFY(!test.timer().isActive()); // the time for a scan has come and gone
+        QTRY_VERIFY_WITH_TIMEOUT(!test.timer().isActive(), 60'000); // the time for a scan has come and gone
         test.run("touch newer.txt"); // listed, though its event has not been taken
     }
     QCOMPARE(test.nextReport(), (Names { "new.txt", "newer.txt" }));
@@ -223,7 +223,7 @@ void FolderWatcherTest::reportsNothingOfAnOutdatedListing_data()
     QTest::newRow("written to, and time for a scan") << Meanwhile([](Watched &test) {
         test.run("echo x > a.txt");
         test.letTimePass();
-        QTRY_VERIFY(!test.timer().isActive());
+        QTRY_VERIFY_WITH_TIMEOUT(!test.timer().isActive(), 60'000);
         test.run("echo x > a.txt");
     }) << true;
     QTest::newRow("paused") << Meanwhile([](Watched &test) { test.watcher->setPaused(true); }) << true;
@@ -243,7 +243,7 @@ void FolderWatcherTest::reportsNothingOfAnOutdatedListing()
     {
         const BusyThreads busy;
         test.letTimePass();
-        QTRY_VERIFY(!test.timer().isActive());
+        QTRY_VERIFY_WITH_TIMEOUT(!test.timer().isActive(), 60'000);
         meanwhile(test);
     }
     QVERIFY(test.reports.empty());
@@ -258,17 +258,17 @@ void FolderWatcherTest::keepsWhatComesDuringAPauseForLater()
     Watched test;
     QVERIFY(test.watcher->start(test.folder, false));
     test.run("touch 0.txt");
-    QTRY_VERIFY(test.timer().isActive());
+    QTRY_VERIFY_WITH_TIMEOUT(test.timer().isActive(), 60'000);
     test.watcher->setPaused(true);
     test.letTimePass(); // of the scan that was pending
-    QTRY_VERIFY(!test.timer().isActive());
+    QTRY_VERIFY_WITH_TIMEOUT(!test.timer().isActive(), 60'000);
     test.run("touch 1.txt 2.txt 3.txt");
     QCoreApplication::processEvents();
     QVERIFY(!test.timer().isActive());
     test.watcher->setPaused(false);
     QCOMPARE(test.timer().intervalAsDuration(), Watched::delay);
     test.letTimePass();
-    QTRY_COMPARE(test.reports.size(), 1U);
+    QTRY_COMPARE_WITH_TIMEOUT(test.reports.size(), 1U, 60'000);
     QCOMPARE(test.reports.front(), (Names { "0.txt", "1.txt", "2.txt", "3.txt" }));
 }
 
@@ -282,7 +282,7 @@ void FolderWatcherTest::beginsAnewWithEachStart()
     QVERIFY(test.watcher->start(test.root / "elsewhere", true));
     QVERIFY(!test.watcher->isPaused());
     test.letTimePass();
-    QTRY_COMPARE(test.reports.size(), 2U);
+    QTRY_COMPARE_WITH_TIMEOUT(test.reports.size(), 2U, 60'000);
     QCOMPARE(test.reports.back(), Names { "../elsewhere/old.txt" });
     QVERIFY(test.watcher->start(test.folder, true)); // what was known there is new again
     QCOMPARE(test.nextReport(), Names { "a.txt" });
@@ -312,7 +312,7 @@ void FolderWatcherTest::stopsWhenTheFolderIsLost()
     QCoreApplication::processEvents();
     if (test.watcher->isWatching())
         test.letTimePass();
-    QTRY_COMPARE(test.lossCount, 1);
+    QTRY_COMPARE_WITH_TIMEOUT(test.lossCount, 1, 60'000);
     QVERIFY(!test.watcher->isWatching() && test.reports.empty());
     std::filesystem::create_directories(test.folder);
     QVERIFY(test.watcher->start(test.folder, false));

@@ -252,7 +252,7 @@ void RenameRunTest::servesActionsInTurn()
     test.addNamed("c.txt", u"C"_s);
     auto last = test.batch->renameAll();
     test.batch.reset(); // the window closes meanwhile
-    QTRY_VERIFY(last.isReady());
+    QTRY_VERIFY_WITH_TIMEOUT(last.isReady(), 60'000);
 }
 
 void RenameRunTest::returnsARevertedFileToPending()

@@ -180,7 +180,7 @@ void RenamerViewModelTest::keepsFiveInFlightAndTakesLateFiles()
     QSignalSpy durations(test.batch.get(), &RenamerViewModel::lastSuggestSecondsChanged);
     test.suggester.isHeld = true;
     auto run = test.batch->suggestAll();
-    QTRY_COMPARE(test.suggester.waiting, 5);
+    QTRY_COMPARE_WITH_TIMEOUT(test.suggester.waiting, 5, 60'000);
     QCOMPARE(test.statuses().count(u"processing"_s), 5);
     QVERIFY(test.batch->isSuggesting());
 
@@ -242,7 +242,7 @@ void RenamerViewModelTest::asksWithTheSettingsOfThePass()
     test.add({ test.make("scan.v2.txt") });
     test.suggester.isHeld = true;
     auto run = test.batch->suggestAll();
-    QTRY_COMPARE(test.suggester.waiting, 1);
+    QTRY_COMPARE_WITH_TIMEOUT(test.suggester.waiting, 1, 60'000);
 
     // What changes now holds for the next pass only; the file in flight keeps the name it was asked for.
     QVERIFY(test.preferences.set(Preference::writeFinderTags, true));
@@ -275,7 +275,7 @@ void RenamerViewModelTest::dropsResultsOfClearedFiles()
     test.add({ test.folder / "f" });
     test.suggester.isHeld = true;
     auto run = test.batch->suggestAll();
-    QTRY_COMPARE(test.suggester.waiting, 5);
+    QTRY_COMPARE_WITH_TIMEOUT(test.suggester.waiting, 5, 60'000);
     test.batch->clear();
     QVERIFY(!test.batch->lastSuggestSeconds());
     test.add({ test.make("new.txt") });
@@ -337,12 +337,12 @@ void RenamerViewModelTest::mayBeDestroyedDuringEverything()
     test.add({ test.make("a.txt") });
     test.suggester.isHeld = true;
     auto run = test.batch->suggestAll();
-    QTRY_COMPARE(test.suggester.waiting, 1);
+    QTRY_COMPARE_WITH_TIMEOUT(test.suggester.waiting, 1, 60'000);
     auto admission = test.batch->addFiles({ test.make("b.txt") }, true);
     auto waiting = test.batch->addFiles({ test.make("c.txt") }, true);
     test.batch.reset();
     test.suggester.letGo();
-    QTRY_VERIFY(run.isReady() && admission.isReady());
+    QTRY_VERIFY_WITH_TIMEOUT(run.isReady() && admission.isReady(), 60'000);
 }
 
 void RenamerViewModelTest::keepsItsCounts()
@@ -356,7 +356,7 @@ void RenamerViewModelTest::keepsItsCounts()
     QVERIFY(test.batch->hasPending());
     test.suggester.isHeld = true;
     auto run = test.batch->suggestAll();
-    QTRY_COMPARE(test.suggester.waiting, 2);
+    QTRY_COMPARE_WITH_TIMEOUT(test.suggester.waiting, 2, 60'000);
     QVERIFY(!test.batch->hasPending());
     QCOMPARE(test.batch->completedCount(), 0);
     test.suggester.letGo();

@@ -40,10 +40,12 @@ struct Watched : TestBatch {
     [[nodiscard]] QStringList namesAfter(const Path &newFile)
     {
         const std::string name = make(newFile).filename().native();
-        const bool came = QTest::qWaitFor([&] {
-            return !batch->files().empty() && batch->files().back().path.filename() == name && !batch->isSuggesting()
-                && !batch->hasPending();
-        });
+        const bool came = QTest::qWaitFor(
+            [&] {
+                return !batch->files().empty() && batch->files().back().path.filename() == name
+                    && !batch->isSuggesting() && !batch->hasPending();
+            },
+            60'000);
         return came ? names() : QStringList { u"it did not come"_s };
     }
 };
@@ -55,11 +57,11 @@ void WatchedFolderTest::suggestsNamesForNewFiles()
     QCOMPARE(test.statuses(), QStringList { u"suggested"_s });
     test.suggester.isHeld = true;
     test.make("one/b.txt");
-    QTRY_COMPARE(test.suggester.waiting, 1);
+    QTRY_COMPARE_WITH_TIMEOUT(test.suggester.waiting, 1, 60'000);
     test.make("one/c.txt"); // during a run, which takes it too
-    QTRY_COMPARE(test.batch->files().size(), 3U);
+    QTRY_COMPARE_WITH_TIMEOUT(test.batch->files().size(), 3U, 60'000);
     test.suggester.letGo();
-    QTRY_COMPARE(test.statuses().count(u"suggested"_s), 3);
+    QTRY_COMPARE_WITH_TIMEOUT(test.statuses().count(u"suggested"_s), 3, 60'000);
 }
 
 void WatchedFolderTest::passesOverFilesOfTheBatch()
@@ -87,20 +89,20 @@ void WatchedFolderTest::followsThePreferencesWhoeverChangesThem()
     test.watched.apply(); // from here on they are existing ones
     QSignalSpy changes(&test.watcher, &FolderWatcher::isWatchingChanged);
     test.prefer(Preference::watchFolderPath, shownPath(test.folder / "two"));
-    QTRY_COMPARE(changes.count(), 2); // stopped and started
+    QTRY_COMPARE_WITH_TIMEOUT(changes.count(), 2, 60'000); // stopped and started
     test.make("one/new.txt");
     QCOMPARE(test.namesAfter("two/new.txt"), QStringList { u"two/new.txt"_s });
     test.prefer(Preference::watchFolderIncludeExisting, true);
-    QTRY_COMPARE(test.names(), (QStringList { u"two/new.txt"_s, u"two/old.txt"_s }));
+    QTRY_COMPARE_WITH_TIMEOUT(test.names(), (QStringList { u"two/new.txt"_s, u"two/old.txt"_s }), 60'000);
 
     for (const QString &nothing : { u"/nonexistent"_s, QString() }) {
         test.prefer(Preference::watchFolderPath, nothing);
-        QTRY_VERIFY(!test.watcher.isWatching());
+        QTRY_VERIFY_WITH_TIMEOUT(!test.watcher.isWatching(), 60'000);
         test.prefer(Preference::watchFolderPath, shownPath(test.folder / "two"));
-        QTRY_VERIFY(test.watcher.isWatching());
+        QTRY_VERIFY_WITH_TIMEOUT(test.watcher.isWatching(), 60'000);
     }
     test.prefer(Preference::watchFolderEnabled, false);
-    QTRY_VERIFY(!test.watcher.isWatching());
+    QTRY_VERIFY_WITH_TIMEOUT(!test.watcher.isWatching(), 60'000);
 }
 
 void WatchedFolderTest::restartsOnlyWhereItMatters()
@@ -114,11 +116,11 @@ void WatchedFolderTest::restartsOnlyWhereItMatters()
     QCOMPARE(changes.count(), 0); // or files not reported yet would be lost
     test.prefer(Preference::watchFolderPath, shownPath(test.folder / "two"));
     test.prefer(Preference::watchFolderIncludeExisting, true);
-    QTRY_COMPARE(changes.count(), 2);
+    QTRY_COMPARE_WITH_TIMEOUT(changes.count(), 2, 60'000);
     QCoreApplication::processEvents();
     QCOMPARE(changes.count(), 2); // one stop and one start for both
     std::filesystem::remove_all(test.folder / "two");
-    QTRY_VERIFY(!test.watcher.isWatching());
+    QTRY_VERIFY_WITH_TIMEOUT(!test.watcher.isWatching(), 60'000);
     std::filesystem::create_directory(test.folder / "two");
     test.watched.apply();
     QVERIFY(test.watcher.isWatching());
