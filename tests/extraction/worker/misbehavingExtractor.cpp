@@ -78,6 +78,11 @@ struct Misbehaviour final : JobPerformer {
         const QString content = contentOf(file);
         if (content == u"scan")
             return job.recognizesText ? text(u"recognized on the second call"_s) : WorkerAnswer(RecognitionNeeded {});
+        if (content == u"work until told"_s) {
+            while (contentOf(file) == content)
+                sleepMs(10);
+            return text(u"the file says now to end"_s);
+        }
         const auto act = acts.find(content);
         return act == acts.end() ? text(content) : act->second(progress);
     }
@@ -172,10 +177,6 @@ Misbehaviour::Misbehaviour()
             names.append(QString::fromUtf8(*variable).section(u'=', 0, 0));
         names.sort();
         return text(names.join(u' '));
-    };
-    acts[u"work for a while"_s] = [](const ReportProgress &) {
-        sleepMs(500);
-        return text(u"it took half a second"_s);
     };
     acts[u"work on many pages"_s] = [](const ReportProgress &reportProgress) {
         for (int page = 0; page < 30; ++page) {

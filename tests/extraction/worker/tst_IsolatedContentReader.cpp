@@ -77,10 +77,15 @@ private:
     /// A file for a worker, which does what it says.
     std::filesystem::path fileSaying(const QString &content, const QString &extension = branched);
     QString read(IsolatedContentReader &reader, const QString &content);
+    /// Files whose workers go on until tellAll().
+    void readUntilTold(IsolatedContentReader &reader, const QStringList &extensions);
+    void tellAll();
 
     const DiskFlags m_flags;
     QTemporaryDir m_folder;
     int m_files = 0;
+    std::vector<std::filesystem::path> m_untold;
+    QStringList m_outcomes; ///< of those files
 };
 
 static IsolatedContentReader::Options options(const ReadingLimits &limits = {})
@@ -124,6 +129,25 @@ std::filesystem::path IsolatedContentReaderTest::fileSaying(const QString &conte
 QString IsolatedContentReaderTest::read(IsolatedContentReader &reader, const QString &content)
 {
     return describe(QCoro::waitFor(reader.read(fileSaying(content))));
+}
+
+void IsolatedContentReaderTest::readUntilTold(IsolatedContentReader &reader, const QStringList &extensions)
+{
+    m_outcomes.clear();
+    for (const QString &extension : extensions) {
+        m_untold.push_back(fileSaying(u"work until told"_s, extension));
+        collect(reader, m_untold.back(), m_outcomes);
+    }
+}
+
+void IsolatedContentReaderTest::tellAll()
+{
+    for (const std::filesystem::path &path : m_untold) {
+        QFile file(path);
+        if (!file.open(QFile::Append) || file.write(": now") < 0)
+            qFatal("a file cannot be written");
+    }
+    m_untold.clear();
 }
 
 void IsolatedContentReaderTest::costsOneFile_data()
@@ -204,16 +228,15 @@ void IsolatedContentReaderTest::leaksNothing()
 void IsolatedContentReaderTest::readsFiveAtOnce()
 {
     IsolatedContentReader reader(m_flags, options());
-    QStringList outcomes;
-    for (int file = 0; file < 12; ++file)
-        collect(reader, fileSaying(u"work for a while"_s, file % 2 == 0 ? branched : unbranched), outcomes);
-    qsizetype most = 0;
-    while (outcomes.size() < 12) {
-        QTest::qWait(10);
-        most = std::max(most, extractorProcesses().size());
-    }
-    QCOMPARE(outcomes, QStringList(12, u"text: it took half a second"_s));
-    QCOMPARE(most, starterAndBranch + 5);
+    const QStringList oneOfEach { branched, unbranched };
+    readUntilTold(reader, oneOfEach + oneOfEach + oneOfEach + oneOfEach);
+    QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), starterAndBranch + 5, 60000);
+    QTest::qWait(100); // a sixth would come now
+    QCOMPARE(extractorProcesses().size(), starterAndBranch + 5);
+    tellAll();
+    QTRY_COMPARE_WITH_TIMEOUT(m_outcomes.size(), 8, 60000);
+    for (const QString &outcome : std::as_const(m_outcomes))
+        QVERIFY2(outcome.startsWith(u"text: "_s), qPrintable(outcome)); // some had been told before they began
 }
 
 // Missing files make each reading ask for the flags, where the gate is.
@@ -262,12 +285,13 @@ void IsolatedContentReaderTest::survivesItsStarter()
     QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), starterAndBranch, 60000);
     QList<pid_t> others = extractorProcesses();
     others.removeOne(starter);
-    QStringList outcomes;
-    for (int file = 0; file < 5; ++file)
-        collect(reader, fileSaying(u"work for a while"_s, file == 0 ? unbranched : branched), outcomes);
+    readUntilTold(reader, { unbranched, branched, branched, branched, branched });
     QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), starterAndBranch + 5, 60000);
     ::kill(killsBranch ? others.first() : starter, SIGKILL);
-    QTRY_COMPARE_WITH_TIMEOUT(outcomes, QStringList(5, u"text: it took half a second"_s), 60000);
+    QTRY_VERIFY_WITH_TIMEOUT(!extractorProcesses().contains(starter), 60000); // it ends with its branch
+    QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), starterAndBranch + 5, 60000); // each is read once more
+    tellAll();
+    QTRY_COMPARE_WITH_TIMEOUT(m_outcomes, QStringList(5, u"text: the file says now to end"_s), 60000);
     QTRY_COMPARE_WITH_TIMEOUT(extractorProcesses().size(), starterAndBranch, 60000);
 }
 
