@@ -26,6 +26,9 @@ NAMED = {"push button", "check box", "radio button", "combo box", "text", "entry
          "password text", "dialog", "popup menu", "menu bar", "menu item", "list", "list item", "page tab list"}
 NOT_AVAILABLE = "Not available now"  # since Qt 6.4 says of every item that it is enabled
 
+# Its own limit, less than a second, is over before a machine under load has shown a chooser for the first time.
+Atspi.set_timeout(PATIENCE * 1000, PATIENCE * 1000)
+
 
 read_role_name = Atspi.Accessible.get_role_name
 
