@@ -265,7 +265,6 @@ static void openPicker(Stage &stage, const char *type)
     QTest::qWait(300);
 }
 
-/// The settings at a tab, over a window in use.
 static void addOwnTemplate(Stage &stage)
 {
     const NameTemplate reports { u"reports"_s, u"Client reports"_s,
@@ -273,18 +272,25 @@ static void addOwnTemplate(Stage &stage)
     static_cast<void>(stage.templates.setTemplates(builtInTemplates() + QList { reports }));
 }
 
+static void watch(Stage &stage, const std::filesystem::path &folder)
+{
+    std::filesystem::create_directories(folder);
+    stage.access.addGrant(folder);
+    static_cast<void>(stage.preferences.set(Preference::watchFolderPath, shownPath(folder)));
+    static_cast<void>(stage.preferences.set(Preference::watchFolderEnabled, true));
+}
+
+/// The settings at a tab, over a window in use.
 static void showSettings(Stage &stage, const QString &tab)
 {
     fillForReview(stage);
-    for (const char *folder : { "Documents/Invoices", "Downloads" }) {
-        std::filesystem::create_directories(stage.home / folder);
-        stage.access.addGrant(stage.home / folder);
-    }
+    const std::filesystem::path invoices = stage.home / "Documents/Invoices";
+    std::filesystem::create_directories(invoices);
+    stage.access.addGrant(invoices);
+    watch(stage, stage.home / "Downloads");
     addOwnTemplate(stage);
     stage.settings->preferences()->setWriteFinderTags(true);
     stage.settings->preferences()->setSettingsSelectedTab(tab);
-    static_cast<void>(stage.preferences.set(Preference::watchFolderPath, shownPath(stage.home / "Downloads")));
-    static_cast<void>(stage.preferences.set(Preference::watchFolderEnabled, true));
     stage.uiState.setProperty("showingSettings", true);
 }
 
@@ -315,11 +321,7 @@ static const std::map<QString, std::function<void(Stage &)>> &screens()
         { u"main-watching"_s,
             [](Stage &stage) {
                 fillForReview(stage);
-                const std::filesystem::path folder = stage.home / "Scans";
-                std::filesystem::create_directories(folder);
-                stage.access.addGrant(folder);
-                static_cast<void>(stage.preferences.set(Preference::watchFolderPath, shownPath(folder)));
-                static_cast<void>(stage.preferences.set(Preference::watchFolderEnabled, true));
+                watch(stage, stage.home / "Scans");
                 stage.watchedFolder.apply();
             } },
         { u"main-dragover"_s,
@@ -533,12 +535,11 @@ static void checkThatWordsFit(const QQuickItem *item, const QQuickItem *control 
 {
     if (!item->isVisible())
         return;
-    if (item->property("truncated").toBool() && item->implicitWidth() < item->width() + 1)
-        qWarning() << "cut for a fraction of a pixel:" << item->property("text");
     const QByteArray type = item->metaObject()->className();
     if (type.startsWith("OptionPicker") || type.startsWith("TemplatePicker") || type.startsWith("PopoverPickerRow"))
         return;
-    if (item->inherits("QQuickAbstractButton") || type.startsWith("StatusPill") || type.startsWith("SettingsTab"))
+    if (item->inherits("QQuickAbstractButton") || type.startsWith("StatusPill") || type.startsWith("SettingsTab")
+        || type.startsWith("WatcherStrip")) // has room for the short names of folders here
         control = item;
     if (control && item->inherits("QQuickText")) {
         const qreal width = item->property("contentWidth").toReal();
